@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/errores.h"
+
+namespace veldix {
+
+enum class Icono { Ninguno, Informacion, Critico, Pregunta };
+enum class Botones { Aceptar, AceptarCancelar };
+
+/// A message box as it is asked for.
+struct Caja {
+    std::string texto;
+    Icono icono = Icono::Ninguno;
+    Botones botones = Botones::Aceptar;
+};
+
+/// Shows a box and tells whether it was answered with OK. The windows fill it at start, tests answer it from
+/// a queue; without either, the text goes to the standard error and the answer is OK.
+using MuestraCaja = std::function<bool(const Caja&)>;
+void PonCajas(MuestraCaja muestra);
+
+/// A message with an OK button.
+void Avisa(const std::string& texto, Icono icono = Icono::Ninguno);
+
+/// A question with OK and Cancel; true on OK.
+bool Pregunta(const std::string& texto, Icono icono = Icono::Pregunta);
+
+/// The common error box: critical, "Error ", number, ": ", description.
+void AvisaError(const ErrorEjecucion& e);
+
+/// Sets the pointer of every window back to the default; the windows fill it at start. Readers that run
+/// without windows call it before a message.
+void PonPunteroNormal(std::function<void()> pon);
+void PunteroNormal();
+
+}  // namespace veldix

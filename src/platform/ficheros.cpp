@@ -1,0 +1,303 @@
+#include "platform/ficheros.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+
+#include "platform/errores.h"
+#include "platform/texto.h"
+
+namespace veldix {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+long long g_limiteDisco = -1;
+
+int ErrorDeApertura(const std::string& ruta, int codigo)
+{
+    switch (codigo) {
+        case ENOENT:
+        case ENOTDIR: {
+            const std::string carpeta = CarpetaDe(ruta);
+            return carpeta.empty() || ExisteCarpeta(carpeta) ? error::kFicheroNoEncontrado
+                                                             : error::kRutaNoEncontrada;
+        }
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return error::kPermiso;
+        case ENOSPC:
+        case EDQUOT:
+            return error::kDiscoLleno;
+        case ENAMETOOLONG:
+            return error::kNombreFichero;
+        default:
+            return error::kAccesoRuta;
+    }
+}
+
+int ErrorDeEscritura(int codigo)
+{
+    if (codigo == ENOSPC || codigo == EDQUOT || codigo == EFBIG) return error::kDiscoLleno;
+    return error::kEntradaSalida;
+}
+
+int AbreParaLeer(const std::string& ruta)
+{
+    if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
+    const int fd = open(ruta.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) Lanza(ErrorDeApertura(ruta, errno));
+    return fd;
+}
+
+/// A file open for writing that is closed in any case.
+class Destino {
+public:
+    explicit Destino(int fd) : fd_(fd) {}
+    ~Destino()
+    {
+        if (fd_ >= 0) close(fd_);
+    }
+    Destino(const Destino&) = delete;
+    Destino& operator=(const Destino&) = delete;
+
+    void Escribe(std::string_view octetos) const
+    {
+        while (!octetos.empty()) {
+            const std::size_t cuantos = Caben(octetos.size());
+            const ssize_t n = cuantos == 0 ? -1 : write(fd_, octetos.data(), cuantos);
+            if (n < 0 && cuantos > 0 && errno == EINTR) continue;
+            if (n < 0) Lanza(cuantos == 0 ? error::kDiscoLleno : ErrorDeEscritura(errno));
+            if (g_limiteDisco >= 0) g_limiteDisco -= n;
+            octetos.remove_prefix(static_cast<std::size_t>(n));
+        }
+    }
+
+    void Cierra()
+    {
+        const int fd = fd_;
+        fd_ = -1;
+        if (fsync(fd) != 0 && errno != EINVAL) {
+            const int codigo = errno;
+            close(fd);
+            Lanza(ErrorDeEscritura(codigo));
+        }
+        if (close(fd) != 0) Lanza(ErrorDeEscritura(errno));
+    }
+
+private:
+    static std::size_t Caben(std::size_t pedidos)
+    {
+        if (g_limiteDisco < 0) return pedidos;
+        return std::min(pedidos, static_cast<std::size_t>(g_limiteDisco));
+    }
+    int fd_;
+};
+
+/// The file behind links, so that a replaced settings file stays where its link points.
+std::string SinEnlaces(const std::string& ruta)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(ruta.c_str(), nullptr), &std::free);
+    return real ? std::string(real.get()) : ruta;
+}
+
+mode_t PermisosDe(const std::string& ruta)
+{
+    struct stat s {};
+    return stat(ruta.c_str(), &s) == 0 ? (s.st_mode & 07777U) : 0644U;
+}
+
+/// The program's path as it was typed, absolute.
+std::string RutaArrancada(const char* argv0)
+{
+    const std::string nombre = argv0 ? argv0 : "";
+    if (!nombre.empty() && nombre[0] == '/') return nombre;
+    const char* pwd = std::getenv("PWD");
+    std::error_code ec;
+    const bool valePwd = pwd && *pwd == '/' && fs::equivalent(pwd, ".", ec) && !ec;
+    const std::string aqui = valePwd ? std::string(pwd) : fs::current_path(ec).string();
+    if (nombre.find('/') != std::string::npos) return UneRuta(aqui, nombre);
+    std::string_view caminos = std::getenv("PATH") ? std::getenv("PATH") : "";
+    while (!nombre.empty() && !caminos.empty()) {
+        const std::size_t fin = std::min(caminos.find(':'), caminos.size());
+        const std::string intento = UneRuta(caminos.substr(0, fin), nombre);
+        if (access(intento.c_str(), X_OK) == 0 && ExisteFichero(intento)) return intento;
+        caminos.remove_prefix(std::min(fin + 1, caminos.size()));
+    }
+    return fs::read_symlink("/proc/self/exe", ec).string();
+}
+
+}  // namespace
+
+bool ExisteFichero(const std::string& ruta)
+{
+    std::error_code ec;
+    return !ruta.empty() && fs::is_regular_file(ruta, ec);
+}
+
+bool ExisteCarpeta(const std::string& ruta)
+{
+    std::error_code ec;
+    return !ruta.empty() && fs::is_directory(ruta, ec);
+}
+
+std::string BuscaSinCaja(const std::string& ruta)
+{
+    if (ruta.empty() || ExisteFichero(ruta) || ExisteCarpeta(ruta)) return ruta;
+    const std::string carpeta = CarpetaDe(ruta), nombre = NombreDe(ruta);
+    std::string hallado;
+    std::error_code ec;
+    for (fs::directory_iterator it(carpeta.empty() ? "." : carpeta, ec), fin; !ec && it != fin;
+         it.increment(ec)) {
+        const std::string este = it->path().filename().string();
+        if (IgualSinCaja(este, nombre) && (hallado.empty() || este < hallado)) hallado = este;
+    }
+    return hallado.empty() ? ruta : ruta.substr(0, ruta.size() - nombre.size()) + hallado;
+}
+
+std::string UneRuta(std::string_view carpeta, std::string_view nombre)
+{
+    std::string r(carpeta);
+    if (!r.empty() && r.back() != '/') r += '/';
+    return r.append(nombre);
+}
+
+std::string CarpetaDe(std::string_view ruta)
+{
+    const std::size_t barra = ruta.rfind('/');
+    if (barra == std::string_view::npos) return {};
+    return std::string(ruta.substr(0, std::max<std::size_t>(barra, 1)));
+}
+
+std::string NombreDe(std::string_view ruta)
+{
+    const std::size_t barra = ruta.rfind('/');
+    return std::string(barra == std::string_view::npos ? ruta : ruta.substr(barra + 1));
+}
+
+std::string LeeOctetos(const std::string& ruta)
+{
+    LectorTrozos lector(ruta);
+    std::string todo;
+    constexpr std::size_t kTrozo = 256 * 1024;
+    for (std::size_t n = kTrozo; n == kTrozo;) {
+        const std::size_t antes = todo.size();
+        todo.resize(antes + kTrozo);
+        n = lector.Lee({todo.data() + antes, kTrozo});
+        todo.resize(antes + n);
+    }
+    return todo;
+}
+
+LectorTrozos::LectorTrozos(const std::string& ruta) : fd_(AbreParaLeer(ruta)) {}
+
+LectorTrozos::~LectorTrozos()
+{
+    close(fd_);
+}
+
+std::size_t LectorTrozos::Lee(std::span<char> donde)
+{
+    std::size_t leidos = 0;
+    while (leidos < donde.size()) {
+        const ssize_t n = read(fd_, donde.data() + leidos, donde.size() - leidos);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) Lanza(error::kEntradaSalida);
+        if (n == 0) break;
+        leidos += static_cast<std::size_t>(n);
+    }
+    return leidos;
+}
+
+void ReemplazaFichero(const std::string& ruta, std::string_view octetos)
+{
+    if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
+    const std::string real = SinEnlaces(ruta);
+    const mode_t permisos = PermisosDe(real);
+    if (access(real.c_str(), F_OK) == 0 && access(real.c_str(), W_OK) != 0) Lanza(error::kPermiso);
+    std::string temporal = real + ".XXXXXX";
+    const int fd = mkostemp(temporal.data(), O_CLOEXEC);
+    if (fd < 0) Lanza(ErrorDeApertura(real, errno));
+    try {
+        Destino destino(fd);
+        destino.Escribe(octetos);
+        fchmod(fd, permisos);
+        destino.Cierra();
+        if (rename(temporal.c_str(), real.c_str()) != 0) Lanza(ErrorDeApertura(real, errno));
+    } catch (...) {
+        unlink(temporal.c_str());
+        throw;
+    }
+}
+
+void EscribeFichero(const std::string& ruta, std::string_view octetos)
+{
+    if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
+    const int fd = open(ruta.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0) Lanza(ErrorDeApertura(ruta, errno));
+    Destino destino(fd);
+    destino.Escribe(octetos);
+    destino.Cierra();
+}
+
+void LimitaDisco(long long octetos)
+{
+    g_limiteDisco = octetos;
+}
+
+std::vector<std::string> Lineas(std::string_view texto)
+{
+    if (texto.ends_with('\x1A') &&
+        (texto.size() == 1 || texto[texto.size() - 2] == '\n' || texto[texto.size() - 2] == '\r'))
+        texto.remove_suffix(1);
+    std::vector<std::string> r;
+    while (!texto.empty()) {
+        const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
+        r.emplace_back(texto.substr(0, fin));
+        const bool dos = texto.substr(fin).starts_with("\r\n");
+        texto.remove_prefix(std::min(texto.size(), fin + (dos ? 2U : 1U)));
+    }
+    return r;
+}
+
+const std::string& LectorLineas::Lee()
+{
+    if (Fin()) Lanza(error::kFinDeFichero);
+    return lineas_[siguiente_++];
+}
+
+std::string Une(const std::vector<std::string>& lineas)
+{
+    std::string r;
+    for (const std::string& l : lineas)
+        r.append(l).append("\r\n");
+    return r;
+}
+
+std::string CarpetaPrograma(const char* argv0)
+{
+    std::string ruta = RutaArrancada(argv0);
+    // A link to the program itself is followed; links among its folders are kept.
+    for (int saltos = 0; saltos < 40; ++saltos) {
+        std::error_code ec;
+        const fs::path destino = fs::read_symlink(ruta, ec);
+        if (ec) break;
+        ruta = destino.is_absolute() ? destino.string() : UneRuta(CarpetaDe(ruta), destino.string());
+    }
+    std::string carpeta = fs::path(CarpetaDe(ruta)).lexically_normal().string();
+    if (carpeta.size() > 1 && carpeta.back() == '/') carpeta.pop_back();
+    return carpeta;
+}
+
+}  // namespace veldix

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veldix {
+
+bool ExisteFichero(const std::string& ruta);
+bool ExisteCarpeta(const std::string& ruta);
+
+/// A path of the program's own making as it stands on the disk: the exact spelling first, else a file of the
+/// same folder whose name differs in case alone, else the path unchanged. Only the last component is sought.
+std::string BuscaSinCaja(const std::string& ruta);
+
+/// Folder and name joined by the separator, which is not doubled.
+std::string UneRuta(std::string_view carpeta, std::string_view nombre);
+std::string CarpetaDe(std::string_view ruta);
+std::string NombreDe(std::string_view ruta);
+
+/// The whole file. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where its
+/// folder is, 70 where it may not be read, 57 where reading fails.
+std::string LeeOctetos(const std::string& ruta);
+
+/// A file read in chunks, so that a long one is never in memory whole. Errors as LeeOctetos.
+class LectorTrozos {
+public:
+    explicit LectorTrozos(const std::string& ruta);
+    ~LectorTrozos();
+    LectorTrozos(const LectorTrozos&) = delete;
+    LectorTrozos& operator=(const LectorTrozos&) = delete;
+
+    /// Fills `donde` as far as the file goes; the count of octets read, less than asked only at its end.
+    std::size_t Lee(std::span<char> donde);
+
+private:
+    int fd_ = -1;
+};
+
+/// Replaces a file the user owns as a whole, through a temporary file of its folder and a rename, so that a
+/// full disk or a kill leaves the old one. Raises 61, 70, 75, 76.
+void ReemplazaFichero(const std::string& ruta, std::string_view octetos);
+
+/// Writes a file in place, replacing what is there; a failure leaves it half written. Raises as above.
+void EscribeFichero(const std::string& ruta, std::string_view octetos);
+
+/// For tests: octets that a write may put on the disk before it counts as full; negative lifts the limit.
+void LimitaDisco(long long octetos);
+
+/// The lines of a text: CR LF, LF and CR each end one; a lone 0x1A at the end is no line.
+std::vector<std::string> Lineas(std::string_view texto);
+
+/// Lines read one by one.
+class LectorLineas {
+public:
+    explicit LectorLineas(std::vector<std::string> lineas) : lineas_(std::move(lineas)) {}
+    /// The next line. Raises 62 behind the last one.
+    const std::string& Lee();
+    bool Fin() const { return siguiente_ == lineas_.size(); }
+
+private:
+    std::vector<std::string> lineas_;
+    std::size_t siguiente_ = 0;
+};
+
+/// Lines joined with CR LF behind each.
+std::string Une(const std::vector<std::string>& lineas);
+
+/// The folder that the program was started from, links among folders kept, without a separator at its end.
+std::string CarpetaPrograma(const char* argv0);
+
+}  // namespace veldix

@@ -1,0 +1,203 @@
+#include "platform/raster.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <limits>
+
+namespace veldix {
+namespace {
+
+struct Punto {
+    double x;
+    double y;
+};
+
+// The pen over one surface. Inside, coordinates are shifted so that truncation rounds to the nearest pixel
+// and everything the pen can touch is positive: `s` below is such a coordinate, pixel = int(s) - margen.
+class Pluma {
+public:
+    Pluma(const Imagen32& imagen, std::uint32_t color, int grueso)
+        : imagen_(imagen),
+          color_(color),
+          grueso_(std::clamp(grueso, 1, kGruesoMaximo)),
+          margen_(grueso_ + 1),
+          limiteX_(imagen.ancho + 2.0 * margen_),
+          limiteY_(imagen.alto + 2.0 * margen_)
+    {
+    }
+
+    bool Vacia() const { return imagen_.pixeles == nullptr || imagen_.ancho <= 0 || imagen_.alto <= 0; }
+
+    Punto Desplaza(double x, double y) const { return {x + (margen_ + 0.5), y + (margen_ + 0.5)}; }
+
+    bool ColumnaVisible(double s) const { return s >= 0.0 && s < limiteX_; }
+
+    static bool Finito(double v) { return std::abs(v) <= std::numeric_limits<double>::max(); }
+
+    void Segmento(Punto a, Punto b) const;
+
+    // The stretch of one pixel column between two finite shifted ordinates, menor <= mayor.
+    void Columna(int columna, double menor, double mayor) const;
+
+private:
+    static bool RecortaEje(Punto& a, Punto& b, double Punto::*eje, double Punto::*otro, double limite);
+    void Bresenham(int x1, int y1, int x2, int y2) const;
+    void Bloque(int x1, int y1, int x2, int y2) const;
+
+    Imagen32 imagen_;
+    std::uint32_t color_;
+    int grueso_;
+    int margen_;
+    double limiteX_;
+    double limiteY_;
+};
+
+void Pluma::Segmento(Punto a, Punto b) const
+{
+    if (!Finito(a.x) || !Finito(a.y) || !Finito(b.x) || !Finito(b.y)) return;
+    // A segment within one column is never clipped in x, so that it is a part of the column's own stretch.
+    if (ColumnaVisible(a.x) && ColumnaVisible(b.x) && static_cast<int>(a.x) == static_cast<int>(b.x)) {
+        const auto [menor, mayor] = std::minmax(a.y, b.y);
+        Columna(static_cast<int>(a.x), menor, mayor);
+        return;
+    }
+    if (!RecortaEje(a, b, &Punto::x, &Punto::y, limiteX_)) return;
+    if (!RecortaEje(a, b, &Punto::y, &Punto::x, limiteY_)) return;
+    Bresenham(static_cast<int>(a.x), static_cast<int>(a.y), static_cast<int>(b.x), static_cast<int>(b.y));
+}
+
+void Pluma::Columna(int columna, double menor, double mayor) const
+{
+    if (mayor < 0.0 || menor > limiteY_) return;
+    Bloque(columna, static_cast<int>(std::max(menor, 0.0)), columna,
+           static_cast<int>(std::min(mayor, limiteY_)));
+}
+
+// Cuts the segment along one coordinate to the centres of the outermost pixels of 0..limite, so that slants
+// through pixel centres keep to them; false when nothing is left. Differences are taken of halves, so that
+// no finite end overflows.
+bool Pluma::RecortaEje(Punto& a, Punto& b, double Punto::*eje, double Punto::*otro, double limite)
+{
+    const Punto desde = a;
+    const Punto hasta = b;
+    const double menor = 0.5;
+    const double mayor = limite - 0.5;
+    if (std::max(a.*eje, b.*eje) < menor || std::min(a.*eje, b.*eje) > mayor) return false;
+    const auto lleva = [&](Punto& p, double borde) {
+        const double t = (borde / 2 - desde.*eje / 2) / (hasta.*eje / 2 - desde.*eje / 2);
+        p.*otro = (desde.*otro) * (1.0 - t) + (hasta.*otro) * t;
+        p.*eje = borde;
+    };
+    for (Punto* p : {&a, &b}) {
+        if (p->*eje < menor) {
+            lleva(*p, menor);
+        } else if (p->*eje > mayor) {
+            lleva(*p, mayor);
+        }
+    }
+    return true;
+}
+
+// One block for each run of pixels that share a row (flat lines) or a column (steep ones).
+void Pluma::Bresenham(int x1, int y1, int x2, int y2) const
+{
+    const bool plana = std::abs(x2 - x1) >= std::abs(y2 - y1);
+    int u = plana ? x1 : y1;
+    int v = plana ? y1 : x1;
+    const int fin = plana ? x2 : y2;
+    const int largo = std::abs(fin - u);
+    const int ancho = std::abs((plana ? y2 : x2) - v);
+    const int pasoU = fin >= u ? 1 : -1;
+    const int pasoV = (plana ? y2 : x2) >= v ? 1 : -1;
+    const auto emite = [&](int desde, int hasta) {
+        const auto [menor, mayor] = std::minmax(desde, hasta);
+        plana ? Bloque(menor, v, mayor, v) : Bloque(v, menor, v, mayor);
+    };
+    int inicio = u;
+    int error = 2 * ancho - largo;
+    for (; u != fin; u += pasoU) {
+        if (error > 0) {
+            emite(inicio, u);
+            inicio = u + pasoU;
+            v += pasoV;
+            error -= 2 * largo;
+        }
+        error += 2 * ancho;
+    }
+    emite(inicio, fin);
+}
+
+// Stamps the pen over the shifted pixels x1..x2 by y1..y2, cut to the surface.
+void Pluma::Bloque(int x1, int y1, int x2, int y2) const
+{
+    const int antes = margen_ + (grueso_ - 1) / 2;
+    const int despues = grueso_ / 2 - margen_;
+    const int izquierda = std::max(x1 - antes, 0);
+    const int derecha = std::min(x2 + despues, imagen_.ancho - 1);
+    const int arriba = std::max(y1 - antes, 0);
+    const int abajo = std::min(y2 + despues, imagen_.alto - 1);
+    const int columnas = derecha - izquierda + 1;
+    if (columnas <= 0 || arriba > abajo) return;
+    std::uint32_t* fila = imagen_.pixeles + static_cast<std::ptrdiff_t>(arriba) * imagen_.paso + izquierda;
+    for (int y = arriba;; ++y, fila += imagen_.paso) {
+        fila[0] = color_;
+        if (columnas > 1) std::fill_n(fila + 1, columnas - 1, color_);
+        if (y == abajo) break;
+    }
+}
+
+}  // namespace
+
+void Rellena(const Imagen32& imagen, std::uint32_t color)
+{
+    if (imagen.pixeles == nullptr || imagen.ancho <= 0) return;
+    for (int y = 0; y < imagen.alto; ++y) {
+        std::fill_n(imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso, imagen.ancho, color);
+    }
+}
+
+void TrazaLinea(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color,
+                int grueso)
+{
+    const Pluma pluma(imagen, color, grueso);
+    if (pluma.Vacia()) return;
+    pluma.Segmento(pluma.Desplaza(x1, y1), pluma.Desplaza(x2, y2));
+}
+
+void TrazaPoligonal(const Imagen32& imagen, std::span<const double> xs, std::span<const double> ys,
+                    double escala, std::uint32_t color, int grueso)
+{
+    const Pluma pluma(imagen, color, grueso);
+    const std::size_t total = std::min(xs.size(), ys.size());
+    if (pluma.Vacia() || total < 2) return;
+    const auto punto = [&](std::size_t i) { return pluma.Desplaza(xs[i] * escala, ys[i] * escala); };
+
+    Punto actual = punto(0);
+    for (std::size_t i = 0;;) {
+        const std::size_t primero = i;
+        Punto siguiente = actual;
+        if (pluma.ColumnaVisible(actual.x) && Pluma::Finito(actual.y)) {
+            const int columna = static_cast<int>(actual.x);
+            const double borde = columna;
+            double menor = actual.y;
+            double mayor = actual.y;
+            while (++i < total) {
+                siguiente = punto(i);
+                if (!(siguiente.x >= borde && siguiente.x < borde + 1.0 && Pluma::Finito(siguiente.y))) break;
+                menor = std::min(menor, siguiente.y);
+                mayor = std::max(mayor, siguiente.y);
+                actual = siguiente;
+            }
+            if (i > primero + 1) pluma.Columna(columna, menor, mayor);
+        } else if (++i < total) {
+            siguiente = punto(i);
+        }
+        if (i >= total) return;
+        pluma.Segmento(actual, siguiente);
+        actual = siguiente;
+    }
+}
+
+}  // namespace veldix

@@ -1,0 +1,26 @@
+#include "record/avance.h"
+
+#include "platform/enteros.h"
+
+namespace veldix {
+
+GanchosRegistro ganchosRegistro;
+
+void MuestraGasolino()
+{
+    if (ganchosRegistro.MuestraGasolino) ganchosRegistro.MuestraGasolino();
+}
+
+void DescargaGasolino()
+{
+    if (ganchosRegistro.DescargaGasolino) ganchosRegistro.DescargaGasolino();
+}
+
+void LlenarGasolino(bool relativo, std::int16_t valor)
+{
+    if (ganchosRegistro.LlenarGasolino) ganchosRegistro.LlenarGasolino(relativo, valor);
+}
+
+PasoGasolino::PasoGasolino(int muestras) : paso_(Entero16(muestras / 90.0)) {}
+
+}  // namespace veldix

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace veldix {
+
+/// What opening a record asks of the rooms above. The shell fills these at start; without them they do
+/// nothing.
+struct GanchosRegistro {
+    std::function<void()> MuestraGasolino;   ///< shows the gauge
+    std::function<void()> DescargaGasolino;  ///< unloads it
+    std::function<void(bool relativo, std::int16_t valor)> LlenarGasolino;
+    std::function<void()> EscribeSesion;  ///< writes the session file
+};
+extern GanchosRegistro ganchosRegistro;
+
+void MuestraGasolino();
+void DescargaGasolino();
+/// Moves the gauge by `valor` points, or to it where not `relativo`; value 0 resets it.
+void LlenarGasolino(bool relativo, std::int16_t valor);
+
+/// A gauge step for each stride + 1 of `muestras` samples, about 90 in all; the stride is a ninetieth of
+/// the samples, halves to even.
+class PasoGasolino {
+public:
+    explicit PasoGasolino(int muestras);
+    void Muestra()
+    {
+        if (cuenta_ == paso_) {
+            LlenarGasolino(true, 1);
+            cuenta_ = 0;
+        } else {
+            ++cuenta_;
+        }
+    }
+
+private:
+    int paso_;
+    int cuenta_ = 0;
+};
+
+}  // namespace veldix

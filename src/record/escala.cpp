@@ -1,0 +1,121 @@
+#include "record/escala.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "platform/enteros.h"
+#include "platform/texto.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr double kMayorSingle = std::numeric_limits<float>::max();
+
+/// Rounded to float32, 0 beyond it.
+float OCero(double v)
+{
+    const auto f = static_cast<float>(v);
+    return std::isfinite(f) ? f : 0.0F;
+}
+
+double Mayor(const std::vector<double>& v)
+{
+    double m = 1.0;
+    for (const double x : v)
+        m = std::max(m, std::fabs(x));
+    return m;
+}
+
+}  // namespace
+
+EscalaCanales::EscalaCanales(const RecordStore& s, double mayor)
+    : n_(s.FactorA.Cuantos()), es1997_(s.RevisionCfg == "1997")
+{
+    a_.assign(s.FactorA.begin(), s.FactorA.end());
+    b_.assign(s.FactorB.begin(), s.FactorB.end());
+    double tope = 0.0;
+    for (int c = 0; c < n_; ++c)
+        tope = std::max(tope, std::fabs(a_[static_cast<std::size_t>(c)]) * mayor +
+                                  std::fabs(b_[static_cast<std::size_t>(c)]));
+    if (es1997_ && n_ > 0) {
+        directa_ = s.Relacion(1).Primario == 1.0F && s.Relacion(1).Secundario == 1.0F;
+        CalculaLados(s);
+        for (const Lados* l : {&primera_, &resto_})
+            tope *= std::max(Mayor(l->prim), Mayor(l->sec));
+    }
+    segura_ = tope < kMayorSingle;
+}
+
+/// The ratios of one sample in reading order. A zero divisor, or a quotient beyond float32, leaves the ratio
+/// of the channel read before; `prim` and `sec` carry it from sample to sample.
+EscalaCanales::Lados EscalaCanales::Pasada(const RecordStore& s, float& prim, float& sec) const
+{
+    Lados r;
+    for (int c = 1; c <= n_; ++c) {
+        const FilaRelacion& relacion = s.Relacion(c);
+        Intenta([&] { prim = Single(Divide(relacion.Primario, relacion.Secundario)); });
+        Intenta([&] { sec = Single(Divide(relacion.Secundario, relacion.Primario)); });
+        const bool esPrimario = Mayusculas(Recorta(relacion.Lado)) == "P";
+        r.prim.push_back(esPrimario ? 1.0 : prim);
+        r.sec.push_back(esPrimario ? sec : 1.0);
+    }
+    return r;
+}
+
+void EscalaCanales::CalculaLados(const RecordStore& s)
+{
+    float prim = 0.0F, sec = 0.0F;
+    primera_ = Pasada(s, prim, sec);
+    resto_ = Pasada(s, prim, sec);
+    for (int c = 1; c <= n_; ++c) {
+        const std::string lado = Mayusculas(Recorta(s.Relacion(c).Lado));
+        if (lado != "P" && lado != "S") sinLado_.push_back(c - 1);
+    }
+}
+
+template <class X>
+void EscalaCanales::Aplica(const X* __restrict x, const bool* valida, bool primera,
+                           float* __restrict muestras, float* __restrict prim, float* __restrict sec) const
+{
+    const double* __restrict a = a_.data();
+    const double* __restrict b = b_.data();
+    if (!es1997_) {
+        if (segura_ && !valida)
+            for (int c = 0; c < n_; ++c)
+                muestras[c] = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
+        else
+            for (int c = 0; c < n_; ++c)
+                muestras[c] = valida && !valida[c] ? 0.0F : OCero(static_cast<double>(x[c]) * a[c] + b[c]);
+        return;
+    }
+    const Lados& lados = primera ? primera_ : resto_;
+    const double* __restrict fp = lados.prim.data();
+    const double* __restrict fs = lados.sec.data();
+    if (segura_ && !valida) {
+        for (int c = 0; c < n_; ++c) {
+            const double v = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
+            prim[c] = static_cast<float>(v * fp[c]);
+            sec[c] = static_cast<float>(v * fs[c]);
+        }
+        if (directa_)
+            for (int c = 0; c < n_; ++c)
+                muestras[c] = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
+    } else {
+        for (int c = 0; c < n_; ++c) {
+            const double v = valida && !valida[c] ? 0.0 : OCero(static_cast<double>(x[c]) * a[c] + b[c]);
+            prim[c] = OCero(v * fp[c]);
+            sec[c] = OCero(v * fs[c]);
+            if (directa_) muestras[c] = static_cast<float>(v);
+        }
+    }
+    for (const int c : sinLado_)
+        prim[c] = sec[c] = 0.0F;
+}
+
+template void EscalaCanales::Aplica(const float*, const bool*, bool, float*, float*, float*) const;
+template void EscalaCanales::Aplica(const std::int16_t*, const bool*, bool, float*, float*, float*) const;
+
+}  // namespace veldix

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include "record/record_store.h"
+
+namespace veldix {
+
+/// How raw values become samples, channel by channel: v = a x + b in double, rounded once to float32, and
+/// for 1997 its primary and secondary value, v or v times a ratio.
+class EscalaCanales {
+public:
+    /// Takes factors and ratios of the store. `mayor` is the largest magnitude that a raw value can have.
+    EscalaCanales(const RecordStore& s, double mayor);
+
+    bool Es1997() const { return es1997_; }
+    /// Whether `Muestras` takes v: every 1991 record, and a 1997 one whose channel 1 has the ratio 1/1.
+    bool Directa() const { return directa_; }
+
+    /// One sample of all channels from raw values x[0..n); rows of n columns, `prim` and `sec` for 1997
+    /// alone, `muestras` only if Directa(). A value beyond float32 is left at 0. `valida` (or null) tells
+    /// which raw values were there; the others are left at 0.
+    template <class X>
+    void Aplica(const X* x, const bool* valida, bool primera, float* muestras, float* prim, float* sec) const;
+
+private:
+    /// Factors on v for the primary and the secondary side.
+    struct Lados {
+        std::vector<double> prim, sec;
+    };
+    void CalculaLados(const RecordStore& s);
+    Lados Pasada(const RecordStore& s, float& prim, float& sec) const;
+
+    int n_ = 0;
+    bool es1997_ = false, directa_ = true;
+    bool segura_ = true;  ///< no value can pass float32
+    std::vector<double> a_, b_;
+    Lados primera_, resto_;     ///< sample 1, and those behind it
+    std::vector<int> sinLado_;  ///< channels, from 0, whose side is neither P nor S
+};
+
+}  // namespace veldix
