@@ -135,7 +135,7 @@ std::optional<float> CampoGeneral(std::string_view campo, const Separadores& s)
         const auto r = std::from_chars(plano.data(), plano.data() + plano.size(), v);
         if (r.ec == std::errc()) return v;
         const double d = DesdePlano(plano.data(), plano.data() + plano.size());
-        if (std::fabs(d) < 1.0) return d < 0.0 ? -0.0F : 0.0F;
+        if (std::fabs(d) < 1.0) return std::signbit(d) ? -0.0F : 0.0F;
         return std::nullopt;
     } catch (const ErrorEjecucion&) {
         return std::nullopt;

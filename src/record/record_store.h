@@ -79,7 +79,8 @@ private:
 struct GrupoEntorno {
     std::string FicheroCfg, FicheroDat, FicheroHdr;  ///< paths of the record, empty where a file is missing
     std::string FicheroCnf;                          ///< path of the current template
-    std::string DirIni;                              ///< settings folder
+    std::string RutaPrograma;  ///< folder of the program, without a separator at its end
+    std::string DirIni;        ///< settings folder
     std::string FicheroIdioma;
     std::int16_t Idioma = 0;                         ///< 1 Spanish, 0 English
     std::string DirDatos, DirPlantillas, DirAplic;   ///< default folders

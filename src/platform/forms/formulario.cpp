@@ -1,8 +1,10 @@
 #include "platform/forms/formulario.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
 
 #include "platform/forms/escena.h"
 #include "platform/pantalla.h"
@@ -28,6 +30,29 @@ void Formulario::closeEvent(QCloseEvent* evento)
     Atrapa(this, [this] { Descarga(); });
 }
 
+void Formulario::PonBotones(QAbstractButton* porDefecto, QAbstractButton* cancela)
+{
+    porDefecto_ = porDefecto;
+    cancela_ = cancela;
+    if (auto* boton = qobject_cast<QPushButton*>(porDefecto)) boton->setDefault(true);
+}
+
+void Formulario::keyPressEvent(QKeyEvent* evento)
+{
+    const bool enter = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    QAbstractButton* boton = nullptr;
+    if (enter) {
+        auto* conFoco = qobject_cast<QAbstractButton*>(focusWidget());
+        boton = conFoco ? conFoco : porDefecto_.data();
+    } else if (evento->key() == Qt::Key_Escape) {
+        boton = cancela_;
+    }
+    if (boton && (evento->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier)
+        boton->click();
+    else
+        QWidget::keyPressEvent(evento);
+}
+
 Vista::Vista(int etiqueta) : Formulario(nullptr), etiqueta_(etiqueta)
 {
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -35,6 +60,7 @@ Vista::Vista(int etiqueta) : Formulario(nullptr), etiqueta_(etiqueta)
     ventana_->setWidget(this);
     ventana_->setAttribute(Qt::WA_DeleteOnClose, false);
     if (escena.area) escena.area->addSubWindow(ventana_);
+    ventana_->installEventFilter(this);
 }
 
 QWidget* Vista::Marco()
@@ -45,8 +71,25 @@ QWidget* Vista::Marco()
     return ventana_;
 }
 
+bool Vista::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (objeto != ventana_ || Descargado()) return Formulario::eventFilter(objeto, evento);
+    if (evento->type() == QEvent::WindowStateChange && ventana_->isMinimized() && !minimizada_) {
+        minimizada_ = true;
+        Form_Minimiza();
+    }
+    if (evento->type() == QEvent::Resize && !ventana_->isMinimized()) {
+        const bool nueva = minimizada_ || ventana_->size() != tamano_;
+        minimizada_ = false;
+        tamano_ = ventana_->size();
+        if (nueva) Form_Resize();
+    }
+    return Formulario::eventFilter(objeto, evento);
+}
+
 void Vista::Coloca(double izquierda, double arriba, double ancho, double alto)
 {
+    tamano_ = QSize(APixeles(ancho), APixeles(alto));
     ventana_->setGeometry(APixeles(izquierda), APixeles(arriba), APixeles(ancho), APixeles(alto));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QMdiSubWindow>
 #include <QPointer>
 #include <QWidget>
@@ -25,6 +26,9 @@ public:
     void Descarga();
     bool Descargado() const { return descargado_; }
 
+    /// The buttons that Enter and Escape press, where the control with the focus does not take the key.
+    void PonBotones(QAbstractButton* porDefecto, QAbstractButton* cancela);
+
     /// What follows a run-time error of a handler, after the common box. A form that is told to unload or
     /// to bring the menu back does it here.
     virtual void TrasError() {}
@@ -33,11 +37,13 @@ protected:
     /// The form's own closing steps.
     virtual void Form_Unload() {}
     void closeEvent(QCloseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
     /// The window that is to go with the form.
     virtual QWidget* Marco() { return this; }
 
 private:
     bool descargado_ = false;
+    QPointer<QAbstractButton> porDefecto_, cancela_;
 };
 
 /// A child of the main window's MDI area, with the number that tells what it is.
@@ -56,10 +62,16 @@ public:
 
 protected:
     QWidget* Marco() override;
+    /// The frame has a new size, also by its restoring; not the one that Coloca gave it.
+    virtual void Form_Resize() {}
+    virtual void Form_Minimiza() {}
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     int etiqueta_;
     QPointer<QMdiSubWindow> ventana_;
+    QSize tamano_;  ///< that the view knows of
+    bool minimizada_ = false;
 };
 
 /// Runs a handler's body: a failure puts the pointers back, shows the common box and then runs the form's

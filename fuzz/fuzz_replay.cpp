@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+#include "platform/ficheros.h"
+#include "pruebas.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Objetivo {
+    const char* nombre;
+    int (*prueba)(std::span<const std::uint8_t>);
+};
+
+#define OBJETIVO(x)                  \
+    Objetivo                         \
+    {                                \
+#x, veldix::fuzz::Prueba_##x \
+    }
+constexpr Objetivo kObjetivos[] = {OBJETIVO(cfg),     OBJETIVO(dat_ascii), OBJETIVO(dat_bin), OBJETIVO(cnf),
+                                   OBJETIVO(ajustes), OBJETIVO(textos),    OBJETIVO(perfil),  OBJETIVO(avi)};
+
+std::vector<fs::path> Ficheros(const fs::path& carpeta)
+{
+    std::vector<fs::path> r;
+    for (const auto& entrada : fs::directory_iterator(carpeta))
+        if (entrada.is_regular_file()) r.push_back(entrada.path());
+    std::sort(r.begin(), r.end());
+    return r;
+}
+
+void Repite(const Objetivo& objetivo, const fs::path& carpeta)
+{
+    ASSERT_TRUE(fs::is_directory(carpeta)) << carpeta;
+    const auto ficheros = Ficheros(carpeta);
+    EXPECT_FALSE(ficheros.empty()) << carpeta;
+    for (const fs::path& fichero : ficheros) {
+        const std::string octetos = veldix::LeeOctetos(fichero.string());
+        try {
+            objetivo.prueba({reinterpret_cast<const std::uint8_t*>(octetos.data()), octetos.size()});
+        } catch (const std::exception& e) {
+            ADD_FAILURE() << fichero << ": " << e.what();
+        }
+    }
+}
+
+class Replay : public testing::TestWithParam<Objetivo> {};
+
+TEST_P(Replay, SeedsHold)
+{
+    Repite(GetParam(), fs::path(VELDIX_SOURCE) / "fuzz/seeds" / GetParam().nombre);
+}
+
+TEST_P(Replay, OldFindingsHold)
+{
+    const fs::path carpeta = fs::path(VELDIX_SOURCE) / "fuzz/found" / GetParam().nombre;
+    if (fs::exists(carpeta)) Repite(GetParam(), carpeta);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Replay, testing::ValuesIn(kObjetivos),
+                         [](const auto& caso) { return std::string(caso.param.nombre); });
+
+}  // namespace

@@ -1,0 +1,163 @@
+#include "batch/ordenes.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ostream>
+
+#include "platform/avisos.h"
+#include "platform/ficheros.h"
+#include "platform/perfil.h"
+#include "platform/textos.h"
+#include "record/abrir_registro.h"
+#include "shell/ajustes.h"
+
+namespace veldix {
+
+namespace {
+
+struct Orden {
+    const char* nombre;
+    std::size_t minimo, maximo;  // words behind the name
+    bool referencia;             // takes --reference
+    Salida (*corre)(const Argumentos&, const Consola&);
+    const char* uso;
+    const char* es;
+    const char* en;
+};
+
+constexpr Orden kOrdenes[] = {
+    {"info", 1, 2, false, OrdenInfo, "info REC.dat [TEMPLATE.cnf]",
+     "escribe el registro, y la plantilla si se da, como JSON",
+     "writes the record, and the template if given, as JSON"},
+    {"samples", 1, 1, true, OrdenSamples, "samples REC.dat [--reference primary|secondary]",
+     "escribe las muestras como CSV, las señales en las unidades del registro",
+     "writes the samples as CSV, in the units of the record"},
+};
+
+const Orden* BuscaOrden(const std::string& nombre)
+{
+    const auto* sitio = std::find_if(std::begin(kOrdenes), std::end(kOrdenes),
+                                     [&](const Orden& o) { return o.nombre == nombre; });
+    return sitio == std::end(kOrdenes) ? nullptr : sitio;
+}
+
+void EscribeUso(std::ostream& s, bool espanol, const Orden* sola)
+{
+    s << (espanol ? "Uso:" : "Usage:") << '\n';
+    for (const Orden& o : kOrdenes)
+        if (!sola || sola == &o)
+            s << "  veldix-cli [--lang es|en] " << o.uso << "\n      " << (espanol ? o.es : o.en) << '\n';
+    s << (espanol ? "Estado de salida: 0 hecho, 1 el registro o la tarea falló, 2 uso incorrecto.\n"
+                  : "Exit status: 0 done, 1 the record or the job failed, 2 wrong usage.\n");
+}
+
+bool EspanolDelSistema()
+{
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const char* v = std::getenv(variable); v && *v) return std::string_view(v).starts_with("es");
+    return false;
+}
+
+/// The value of an option that takes one, "--name value" or "--name=value".
+bool TomaOpcion(const std::vector<std::string>& args, std::size_t& i, std::string_view nombre,
+                std::string& valor)
+{
+    const std::string_view a = args[i];
+    if (a == nombre && i + 1 < args.size()) {
+        valor = args[++i];
+        return true;
+    }
+    if (a.size() > nombre.size() && a.starts_with(nombre) && a[nombre.size()] == '=') {
+        valor = a.substr(nombre.size() + 1);
+        return true;
+    }
+    return false;
+}
+
+struct Linea {
+    std::vector<std::string> sueltos;
+    std::string idioma, referencia;
+    bool ayuda = false, mal = false;
+};
+
+Linea ParteArgumentos(const std::vector<std::string>& args)
+{
+    Linea l;
+    bool opciones = true;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (!opciones || !args[i].starts_with("-") || args[i] == "-")
+            l.sueltos.push_back(args[i]);
+        else if (args[i] == "--")
+            opciones = false;
+        else if (args[i] == "--help" || args[i] == "-h")
+            l.ayuda = true;
+        else if (!TomaOpcion(args, i, "--lang", l.idioma) &&
+                 !TomaOpcion(args, i, "--reference", l.referencia))
+            l.mal = true;
+    }
+    l.mal = l.mal || (!l.idioma.empty() && l.idioma != "es" && l.idioma != "en") ||
+            (!l.referencia.empty() && l.referencia != "primary" && l.referencia != "secondary");
+    return l;
+}
+
+/// Language texts and code page, where the settings folder is there.
+void CargaEntorno(const std::string& rutaPrograma, bool espanol)
+{
+    store.RutaPrograma = rutaPrograma;
+    store.DirIni = rutaPrograma.substr(0, rutaPrograma.size() < 3 ? 0 : rutaPrograma.size() - 3) + "ini";
+    CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));
+    EligeFicheroIdioma(store, espanol);
+    Intenta([] { CargaTextos(store.FicheroIdioma); });
+}
+
+}  // namespace
+
+bool AbreRegistroDe(const std::string& dat, const Consola& consola)
+{
+    NombraPorTronco(store, dat);
+    if (store.FicheroDat.empty() || store.FicheroCfg.empty()) {
+        const bool faltaDat = store.FicheroDat.empty();
+        Avisa(Rotulo(faltaDat ? 174 : 173,
+                     consola.espanol ? "No se encuentra el fichero" : "The file cannot be found") +
+              " (" +
+              (faltaDat ? dat : dat.substr(0, dat.size() - std::min<std::size_t>(3, dat.size())) + "cfg") +
+              ")");
+        return false;
+    }
+    ReiniciaRegistro(store);
+    return AbrirRegistro(store) >= 0;
+}
+
+Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& rutaPrograma, Consola consola)
+{
+    const Linea linea = ParteArgumentos(argumentos);
+    consola.espanol = linea.idioma.empty() ? EspanolDelSistema() : linea.idioma == "es";
+    const Orden* orden = linea.sueltos.empty() ? nullptr : BuscaOrden(linea.sueltos[0]);
+    if (linea.ayuda && !linea.mal) {
+        EscribeUso(consola.resultados, consola.espanol, orden);
+        return Salida::Hecha;
+    }
+    const std::size_t palabras = linea.sueltos.empty() ? 0 : linea.sueltos.size() - 1;
+    if (!orden || linea.mal || palabras < orden->minimo || palabras > orden->maximo ||
+        (!linea.referencia.empty() && !orden->referencia)) {
+        EscribeUso(consola.mensajes, consola.espanol, orden);
+        return Salida::MalUso;
+    }
+    CargaEntorno(rutaPrograma, consola.espanol);
+    PonCajas([&consola](const Caja& caja) {
+        const char* vacio = consola.espanol ? "El registro no se puede leer." : "The record cannot be read.";
+        consola.mensajes << "veldix-cli: " << (caja.texto.empty() ? vacio : caja.texto) << std::endl;
+        return true;
+    });
+    Salida salida = Salida::Fallida;
+    try {
+        salida = orden->corre({{linea.sueltos.begin() + 1, linea.sueltos.end()}, linea.referencia}, consola);
+    } catch (const std::exception&) {
+        AvisaError(ErrorEnVuelo());
+    }
+    PonCajas(nullptr);
+    consola.resultados.flush();
+    return consola.resultados ? salida : Salida::Fallida;
+}
+
+}  // namespace veldix

@@ -1,0 +1,81 @@
+#include "platform/forms/FilasRanura.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QMouseEvent>
+
+#include "platform/forms/escena.h"
+
+namespace veldix {
+
+namespace {
+
+const QColor kMarcada(0xFF, 0xFF, 0x00);
+const QColor kSinMarca(0xFF, 0xFF, 0xFF);
+constexpr int kLadoPunto = 14;  // pixels
+
+void Pinta(QLabel* punto, bool activa)
+{
+    QPalette p = punto->palette();
+    p.setColor(QPalette::Window, activa ? kMarcada : kSinMarca);
+    punto->setPalette(p);
+}
+
+}  // namespace
+
+FilasRanura::FilasRanura(int cuantas, QWidget* padre) : QWidget(padre)
+{
+    auto* rejilla = new QGridLayout(this);
+    rejilla->setContentsMargins(0, 0, 0, 0);
+    rejilla->setColumnStretch(1, 1);
+    for (int k = 1; k <= cuantas; ++k) {
+        Fila f{new QLabel(this), new QLineEdit(this), new QLabel(this)};
+        f.lblpunt->setObjectName(QString("lblpunt%1").arg(k));
+        f.grp->setObjectName(QString("grp%1").arg(k));
+        f.lbl->setObjectName(QString("lbl%1").arg(k));
+        f.lblpunt->setFixedSize(kLadoPunto, kLadoPunto);
+        f.lblpunt->setFrameShape(QFrame::Box);
+        f.lblpunt->setAutoFillBackground(true);
+        f.grp->setReadOnly(true);
+        f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * 24);
+        f.grp->setAccessibleName(QString::number(k));
+        f.lbl->setMinimumWidth(f.lbl->fontMetrics().horizontalAdvance("00000"));
+        f.lbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        for (QWidget* w : {static_cast<QWidget*>(f.lblpunt), static_cast<QWidget*>(f.grp)}) {
+            w->setProperty("ranura", k);
+            w->installEventFilter(this);
+        }
+        connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
+        rejilla->addWidget(f.lblpunt, k - 1, 0);
+        rejilla->addWidget(f.grp, k - 1, 1);
+        rejilla->addWidget(f.lbl, k - 1, 2);
+        filas_.push_back(f);
+    }
+}
+
+void FilasRanura::Muestra(const Ranuras& ranuras)
+{
+    for (int k = 1; k <= ranuras.Cuantas(); ++k) {
+        const Fila& f = filas_[static_cast<std::size_t>(k - 1)];
+        Pinta(f.lblpunt, k == ranuras.Activa());
+        f.lbl->setText(Q(ranuras(k).numero));
+        f.grp->setText(Q(ranuras(k).texto));
+        f.grp->setCursorPosition(0);
+    }
+}
+
+bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)
+{
+    const int k = objeto->property("ranura").toInt();
+    const bool nombre = qobject_cast<QLineEdit*>(objeto) != nullptr;
+    if (evento->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton) {
+        Q_EMIT Click(k);
+    } else if (evento->type() == QEvent::MouseButtonDblClick && nombre) {
+        Q_EMIT DblClick(k);
+        return true;
+    }
+    return QWidget::eventFilter(objeto, evento);
+}
+
+}  // namespace veldix

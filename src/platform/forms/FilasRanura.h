@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+#include <vector>
+
+#include "platform/ranuras.h"
+
+namespace veldix {
+
+/// The rows of a set of slots: a marker `lblpunt`, the channel's name `grp`, its number `lbl`, each with its
+/// slot's number behind its name. It shows what it is told and reports the mouse.
+class FilasRanura : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FilasRanura(int cuantas, QWidget* padre = nullptr);
+
+    /// Shows the slots' texts and the marker, coloured as paleta 14 on the active slot and 15 elsewhere.
+    void Muestra(const Ranuras& ranuras);
+
+Q_SIGNALS:
+    void Click(int k);     ///< on a marker or a name
+    void DblClick(int k);  ///< on a name
+    void Change(int k);    ///< the text of a name changed
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    struct Fila {
+        QLabel* lblpunt;
+        QLineEdit* grp;
+        QLabel* lbl;
+    };
+    std::vector<Fila> filas_;
+};
+
+}  // namespace veldix

@@ -1,0 +1,185 @@
+#include "platform/forms/ListaCarpetas.h"
+
+#include <QDir>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/formulario.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr int kSangria = 12;
+
+bool EsEntrar(const QKeyEvent& evento)
+{
+    return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
+}
+
+QStringList UnidadesDelSistema()
+{
+    QStringList unidades;
+#ifdef Q_OS_WIN
+    const auto raices = QDir::drives();
+    for (const QFileInfo& raiz : raices)
+        unidades.append(raiz.absoluteFilePath());
+#endif
+    return unidades;
+}
+
+/// The folder and its ancestors, the root first.
+QStringList Camino(const QString& ruta)
+{
+    QStringList camino{ruta};
+    for (QDir carpeta(ruta); !carpeta.isRoot() && carpeta.cdUp();)
+        camino.prepend(carpeta.path());
+    return camino;
+}
+
+QTreeWidgetItem* NuevaLinea(const QString& nombre, const QString& ruta, const QIcon& icono)
+{
+    auto* linea = new QTreeWidgetItem({nombre});
+    linea->setIcon(0, icono);
+    linea->setData(0, Qt::UserRole, ruta);
+    linea->setToolTip(0, ruta);
+    return linea;
+}
+
+}  // namespace
+
+ListaUnidades::ListaUnidades(QWidget* padre) : QComboBox(padre)
+{
+    addItems(UnidadesDelSistema());
+    setVisible(count() > 0);
+    connect(this, &QComboBox::activated, this, &ListaUnidades::Cambio);
+}
+
+std::string ListaUnidades::Unidad() const
+{
+    const std::string unidad = U(currentText());
+    if (!ExisteCarpeta(unidad)) Lanza(error::kDispositivo);
+    return unidad;
+}
+
+void ListaUnidades::Pon(const std::string& ruta)
+{
+    int hallada = -1;
+    for (int i = 0; i < count(); ++i)
+        if (Q(ruta).startsWith(itemText(i), Qt::CaseInsensitive)) hallada = i;
+    setCurrentIndex(hallada);
+}
+
+ListaCarpetas::ListaCarpetas(QWidget* padre) : QTreeWidget(padre)
+{
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+    setIndentation(kSangria);
+    setUniformRowHeights(true);
+    connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* linea) { Entra(linea); });
+    const std::string aqui = U(QDir::currentPath());
+    Pon(ExisteCarpeta(aqui) ? aqui : U(QDir::rootPath()));
+}
+
+void ListaCarpetas::Pon(const std::string& ruta)
+{
+    if (!ExisteCarpeta(ruta)) Lanza(error::kRutaNoEncontrada);
+    const std::string nueva = U(QDir::cleanPath(QDir(Q(ruta)).absolutePath()));
+    const bool cambia = nueva != ruta_;
+    ruta_ = nueva;
+    Llena();
+    if (cambia) Q_EMIT Cambio();
+}
+
+void ListaCarpetas::Llena()
+{
+    clear();
+    QTreeWidgetItem* actual = invisibleRootItem();
+    const QIcon abierta = style()->standardIcon(QStyle::SP_DirOpenIcon);
+    const QStringList camino = Camino(Q(ruta_));
+    for (const QString& carpeta : camino) {
+        const QString nombre = QDir(carpeta).dirName();
+        auto* linea = NuevaLinea(nombre.isEmpty() ? carpeta : nombre, carpeta, abierta);
+        actual->addChild(linea);
+        actual = linea;
+    }
+    const QIcon cerrada = style()->standardIcon(QStyle::SP_DirIcon);
+    const auto hijas =
+        QDir(Q(ruta_)).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    QList<QTreeWidgetItem*> lineas;
+    for (const QFileInfo& hija : hijas)
+        lineas.append(NuevaLinea(hija.fileName(), hija.filePath(), cerrada));
+    actual->addChildren(lineas);
+    expandAll();
+    setCurrentItem(actual);
+}
+
+void ListaCarpetas::Entra(QTreeWidgetItem* linea)
+{
+    if (!linea) return;
+    const std::string destino = U(linea->data(0, Qt::UserRole).toString());
+    Atrapa(FormularioDe(this), [&] { Pon(destino); });
+}
+
+void ListaCarpetas::keyPressEvent(QKeyEvent* evento)
+{
+    if (!EsEntrar(*evento)) {
+        QTreeWidget::keyPressEvent(evento);
+        return;
+    }
+    evento->accept();
+    Entra(currentItem());
+}
+
+QSize ListaCarpetas::sizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 11};
+}
+
+ListaFicheros::ListaFicheros(QWidget* padre) : QListWidget(padre)
+{
+    setUniformItemSizes(true);
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!Fichero().empty()) Q_EMIT Click();
+    });
+    connect(this, &QListWidget::itemDoubleClicked, this, &ListaFicheros::DblClick);
+}
+
+void ListaFicheros::Pon(const std::string& carpeta, const std::string& patron)
+{
+    if (!ExisteCarpeta(carpeta)) Lanza(error::kRutaNoEncontrada);
+    clear();
+    const QStringList patrones = Q(patron).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    addItems(QDir(Q(carpeta)).entryList(patrones, QDir::Files, QDir::Name | QDir::IgnoreCase));
+}
+
+std::string ListaFicheros::Fichero() const
+{
+    const auto elegidos = selectedItems();
+    return elegidos.isEmpty() ? std::string() : U(elegidos.constFirst()->text());
+}
+
+void ListaFicheros::keyPressEvent(QKeyEvent* evento)
+{
+    if (!EsEntrar(*evento) || Fichero().empty()) {
+        QListWidget::keyPressEvent(evento);
+        return;
+    }
+    evento->accept();
+    Q_EMIT DblClick();
+}
+
+void ListaFicheros::mousePressEvent(QMouseEvent* evento)
+{
+    const QListWidgetItem* pulsado = itemAt(evento->position().toPoint());
+    const bool otraVez = evento->button() == Qt::LeftButton && pulsado && pulsado->isSelected();
+    QListWidget::mousePressEvent(evento);
+    if (otraVez) Q_EMIT Click();
+}
+
+}  // namespace veldix

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace veldix {
+
+/// Slots that channels are put into one after another, with a marker on the one that takes the next. Slots
+/// count from 1.
+class Ranuras {
+public:
+    struct Ranura {
+        std::string texto;   ///< the channel's name
+        std::string numero;  ///< its number, a text
+    };
+
+    explicit Ranuras(int cuantas) : ranuras_(static_cast<std::size_t>(cuantas)) {}
+
+    int Cuantas() const { return static_cast<int>(ranuras_.size()); }
+    int Activa() const { return activa_; }
+    /// Raises 9.
+    const Ranura& operator()(int k) const;
+
+    enum class Puesta { Hecha, Repetida, Llena };
+    /// Puts a channel into the active slot, which may overwrite it, and moves the marker on, except behind
+    /// the last slot. A channel that stands in a slot before the marker is ignored.
+    Puesta Pon(const std::string& texto, int numero);
+
+    /// Moves the marker. Raises 9.
+    void Marca(int k);
+    /// Empties a slot and moves the marker there. Raises 9.
+    void Vacia(int k);
+
+private:
+    Ranura& Sitio(int k);
+
+    std::vector<Ranura> ranuras_;
+    int activa_ = 1;
+};
+
+}  // namespace veldix

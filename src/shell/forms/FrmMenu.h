@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/forms/formulario.h"
+#include "platform/forms/iconos.h"
+
+namespace veldix {
+
+/// The child window that stands when no view is open: the program's picture and the menu bar.
+class FrmMenu : public Vista {
+    Q_OBJECT
+
+public:
+    FrmMenu();
+    static Portador<FrmMenu> unica;
+
+    /// A template in force makes these commands available.
+    void ActivaPlantilla();
+    /// Enables the tools menu where `tools.ini` has tools. Raises what reading it raises.
+    void ActivaAnalisis();
+
+    /// What the main window does for the menu.
+    struct Principal {
+        std::function<void()> descarga;         ///< ends the program
+        std::function<void()> muestraRegistro;  ///< title and path of an open record
+        std::function<void()> rotulos;          ///< captions of the strip
+    };
+    static Principal principal;
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+
+private:
+    void Form_Load();
+    void CreaMenus();
+    void CreaMenuFicheros();
+    QAction* Entrada(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
+    QMenu* Submenu(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
+    void ConectaMenus();
+    void CreaHerramientas(int cuenta);
+    void ColocaEmblema();
+    void PonRotulos();
+    void LeeTextos();
+    void CambiaIdioma(std::int16_t idioma);
+
+    void mnuAbrirComtrade_Click();
+    void mnuCerrarComtrade_Click();
+    void mnuDir_defecto_Click();
+    void mnutraducirCOMTRADE_Click();
+    void mnuEspanol_Click();
+    void mnuIngles_Click();
+    void mnuSalir_Click();
+    void mnuOndas_Click();
+    void mnuCanalog_Click();
+    void mnuFasores_Click();
+    void mnuInform_Click();
+    void mnuDigital_Click();
+    void mnuanalisis_Click();
+    void mnuanal_Click(int i);
+
+    /// A menu item, the language line of its caption and the caption until that is loaded.
+    struct Rotulado {
+        QAction* accion;
+        int texto;
+        QString defecto;
+    };
+    std::vector<Rotulado> rotulados_;
+
+    QMenuBar* barra_;
+    QMenu *mnuFicheros, *mnuOndas, *mnuDigital, *mnuanalisis;
+    QAction *mnuFasores, *mnuInform;
+    QAction *mnuCanalog, *mnuCompanalog, *mnuDigGrupos, *mnuCompdig;
+    std::vector<QAction*> mnuanal;         ///< tool i at i - 1
+    std::vector<std::string> rutasTools_;  ///< its command
+    Emblema* Image1;
+    QLabel *Label1, *Lblversion;
+};
+
+}  // namespace veldix

@@ -1,0 +1,198 @@
+#include "platform/enteros.h"
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/programas.h"
+#include "platform/perfil.h"
+#include "platform/texto.h"
+#include "platform/textos.h"
+#include "shell/ajustes.h"
+#include "shell/forms/FrmMenu.h"
+#include "shell/forms/frmAbrirComtrade.h"
+#include "shell/forms/frmDirect.h"
+#include "templates/plantilla.h"
+#include "waves/forms/frmNewOndas.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr std::size_t kMayorPerfil = 149;  // characters of the converter's command
+
+bool VersionVieja()
+{
+    return LeerVersionPlantilla(store) == "ver 1.0";
+}
+
+}  // namespace
+
+/// Entries whose window is not part of the program yet have no handler.
+void FrmMenu::ConectaMenus()
+{
+    const auto orden = [this](const char* nombre, auto manejador) {
+        Conecta(findChild<QAction*>(nombre), &QAction::triggered, this, manejador);
+    };
+    orden("mnuAbrirComtrade", &FrmMenu::mnuAbrirComtrade_Click);
+    orden("mnuCerrarComtrade", &FrmMenu::mnuCerrarComtrade_Click);
+    orden("mnuDir_defecto", &FrmMenu::mnuDir_defecto_Click);
+    orden("mnutraducirCOMTRADE", &FrmMenu::mnutraducirCOMTRADE_Click);
+    orden("mnuEspanol", &FrmMenu::mnuEspanol_Click);
+    orden("mnuIngles", &FrmMenu::mnuIngles_Click);
+    orden("mnuSalir", &FrmMenu::mnuSalir_Click);
+    orden("mnuCanalog", &FrmMenu::mnuCanalog_Click);
+    orden("mnuFasores", &FrmMenu::mnuFasores_Click);
+    orden("mnuInform", &FrmMenu::mnuInform_Click);
+    Conecta(mnuOndas, &QMenu::aboutToShow, this, &FrmMenu::mnuOndas_Click);
+    Conecta(mnuDigital, &QMenu::aboutToShow, this, &FrmMenu::mnuDigital_Click);
+    Conecta(mnuanalisis, &QMenu::aboutToShow, this, &FrmMenu::mnuanalisis_Click);
+}
+
+void FrmMenu::mnuAbrirComtrade_Click()
+{
+    frmAbrirComtrade().Carga();
+    if (principal.muestraRegistro) principal.muestraRegistro();
+}
+
+void FrmMenu::mnuCerrarComtrade_Click()
+{
+    CierraRegistro(store);
+    if (principal.muestraRegistro) principal.muestraRegistro();
+}
+
+void FrmMenu::mnuDir_defecto_Click()
+{
+    LeeDirectorios(store);
+    frmDirect::unica.CargaNueva().show();
+}
+
+void FrmMenu::mnutraducirCOMTRADE_Click()
+{
+    const std::string orden = ValorPerfil(UneRuta(store.DirIni, "perfil.ini"), "QORVANT", "path");
+    store.FicheroTraducido = Izquierda(orden, kMayorPerfil);
+    if (Recorta(store.FicheroTraducido).empty()) {
+        Avisa(Textos(270), Icono::Informacion);
+        return;
+    }
+    try {
+        ArrancaPrograma(store.FicheroTraducido);
+    } catch (const ErrorEjecucion& e) {
+        if (e.numero != error::kFicheroNoEncontrado) throw;
+        Avisa(Textos(270), Icono::Informacion);
+    }
+}
+
+void FrmMenu::mnuEspanol_Click()
+{
+    if (store.Idioma != 1) CambiaIdioma(1);
+}
+
+void FrmMenu::mnuIngles_Click()
+{
+    if (store.Idioma != 0) CambiaIdioma(0);
+}
+
+void FrmMenu::CambiaIdioma(std::int16_t idioma)
+{
+    store.Idioma = idioma;
+    Atrapa(this, [idioma] { CambiaIdiomaFicheros(store, idioma); });
+    PonRotulos();
+}
+
+void FrmMenu::mnuSalir_Click()
+{
+    if (Pregunta(Textos(284)) && principal.descarga) principal.descarga();
+}
+
+void FrmMenu::mnuOndas_Click()
+{
+    mnuCanalog->setEnabled(store.RegistroAbierto);
+    mnuCompanalog->setEnabled(store.RegistroAbierto);
+    if (!store.RegistroAbierto) return;
+    if (store.FicheroCnf.empty())
+        Avisa(Textos(246), Icono::Critico);
+    else if (VersionVieja())
+        Avisa(Textos(172), Icono::Critico);
+}
+
+void FrmMenu::mnuCanalog_Click()
+{
+    frmNewOndas::unica.CargaNueva().show();
+}
+
+/// At most one box; the entries stay enabled in every case with a record.
+void FrmMenu::mnuDigital_Click()
+{
+    mnuDigGrupos->setEnabled(store.RegistroAbierto);
+    mnuCompdig->setEnabled(store.RegistroAbierto);
+    if (!store.RegistroAbierto) return;
+    if (store.FicheroCnf.empty()) {
+        Avisa(Textos(246), Icono::Critico);
+    } else if (VersionVieja()) {
+        Avisa(Textos(172), Icono::Critico);
+    } else if (store.NumCanalDig == 0 || store.NumGruposDig == 0) {
+        PonPuntero(this, Puntero::Normal);
+        Avisa(Textos(92), Icono::Critico);
+    }
+}
+
+void FrmMenu::mnuFasores_Click()
+{
+    if (!store.RegistroAbierto) {
+        Avisa(Textos(91), Icono::Critico);
+        return;
+    }
+    if (Entero16(Divide(MuestrasPorSegundo(store), store.FrecLinea)) == 0) {
+        Avisa(Textos(283), Icono::Informacion);
+        return;
+    }
+    if (store.PlantillaAplicada && store.PlantillaNoValida) {
+        Avisa(Textos(246), Icono::Critico);
+        return;
+    }
+    if (VersionVieja()) Avisa(Textos(172), Icono::Critico);
+}
+
+void FrmMenu::mnuInform_Click()
+{
+    if (!store.RegistroAbierto)
+        Avisa(Textos(91), Icono::Critico);
+    else if (store.FicheroHdr.empty())
+        Avisa(Textos(161), Icono::Critico);
+}
+
+void FrmMenu::mnuanalisis_Click()
+{
+    const std::int16_t cuenta = LeeTools(store);
+    CreaHerramientas(cuenta);
+    const ToolsIni ini = LeeToolsIni(store);
+    rutasTools_.assign(mnuanal.size(), {});
+    const bool activas = store.RegistroAbierto && store.PlantillaAplicada;
+    for (std::size_t k = 0; k < mnuanal.size(); ++k) {
+        const bool hay = k < ini.herramientas.size();
+        const Herramienta h = hay ? ParteHerramienta(ini.herramientas[k]) : Herramienta{};
+        mnuanal[k]->setText(Q(h.nombre));
+        mnuanal[k]->setVisible(hay);
+        mnuanal[k]->setEnabled(hay && activas);
+        rutasTools_[k] = h.orden;
+    }
+}
+
+void FrmMenu::mnuanal_Click(int i)
+{
+    if (store.RegistroAbierto && store.PlantillaAplicada && store.PlantillaNoValida) {
+        Avisa(Textos(246), Icono::Critico);
+        return;
+    }
+    if (VersionVieja()) {
+        Avisa(Textos(172), Icono::Critico);
+        return;
+    }
+    if (store.NumGruposDig == 0) {
+        PonPuntero(this, Puntero::Normal);
+        Avisa(Textos(92), Icono::Critico);
+        return;
+    }
+    const auto sitio = static_cast<std::size_t>(i - 1);
+    if (sitio < rutasTools_.size() && !rutasTools_[sitio].empty()) ArrancaPrograma(rutasTools_[sitio]);
+}
+
+}  // namespace veldix

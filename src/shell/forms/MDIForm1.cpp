@@ -1,0 +1,319 @@
+#include "shell/forms/MDIForm1.h"
+#include "shell/forms/gasolino.h"
+#include "shell/forms/gasolino_ondas.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiSubWindow>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOptionFrame>
+#include <QTime>
+#include <QVBoxLayout>
+
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/formulario.h"
+#include "platform/forms/iconos.h"
+#include "platform/pantalla.h"
+#include "platform/perfil.h"
+#include "platform/texto.h"
+#include "platform/textos.h"
+#include "record/abrir_registro.h"
+#include "record/avance.h"
+#include "shell/ajustes.h"
+#include "shell/forms/FrmMenu.h"
+#include "shell/linea_ordenes.h"
+#include "templates/plantilla.h"
+#include "waves/forms/frmVerOndas.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr const char* kTitulo = "VELDIX 2.1.7";
+constexpr int kReloj = 1000;  // ms
+
+/// Forms in the order in which the program's end unloads them.
+constexpr const char* kOrdenFinal[] = {
+    "Conversion",       "frm19",         "frmAjustes",    "frmAnalog",      "frmAbrirComtrade",
+    "frmNewCompanalog", "frmDirect",     "frmDigital",    "frmFases",       "frmFasecuencias",
+    "frmGrid",          "frmElecdig",    "FrmMenu",       "frmNuevosTools", "frmNewOndas",
+    "frmPlantilla",     "frmSalvaPlan",  "frmSecuencias", "frmTodoanalog",  "frmTrifasic",
+    "frmVerCmpang",     "frmVerOndas",   "Mensaje",       "poscamb",        "gasolino",
+    "gasolino2",        "gasolino_ondas"};
+
+void DescargaTodas(const QString& nombre)
+{
+    const auto widgets = QApplication::allWidgets();
+    for (QWidget* w : widgets)
+        if (auto* form = qobject_cast<Formulario*>(w); form && form->objectName() == nombre) form->Descarga();
+}
+
+}  // namespace
+
+void EtiquetaRuta::PonRuta(const QString& ruta)
+{
+    setText(ruta);
+    setToolTip(ruta);
+}
+
+void EtiquetaRuta::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter,
+               fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
+}
+
+MDIForm1::MDIForm1(const std::string& rutaPrograma, std::string linea) : linea_(std::move(linea))
+{
+    setObjectName("MDIForm1");
+    setWindowIcon(IconoPrograma());
+    store.RutaPrograma = rutaPrograma;
+    auto* centro = new QWidget(this);
+    auto* columna = new QVBoxLayout(centro);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->setSpacing(0);
+    area_ = new QMdiArea(centro);
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    columna->addWidget(area_, 1);
+    CreaTira();
+    columna->addWidget(tira_);
+    setCentralWidget(centro);
+    LlenaGanchos();
+}
+
+MDIForm1::~MDIForm1()
+{
+    MDIForm_Unload();
+    escena = {};
+    ganchosRegistro = {};
+    FrmMenu::principal = {};
+}
+
+void MDIForm1::CreaTira()
+{
+    tira_ = new QWidget(this);
+    tira_->setObjectName("tira");
+    Etiqueta = new EtiquetaRuta(tira_);
+    Etiqueta->setObjectName("Etiqueta");
+    mnuTime = new QLabel(tira_);
+    mnuTime->setObjectName("mnuTime");
+    cmdSalir = new QPushButton("Salir", tira_);
+    cmdSalir->setObjectName("cmdSalir");
+    Reloj = new QTimer(this);
+    Reloj->setObjectName("Reloj");
+    tira_->setFixedHeight(cmdSalir->sizeHint().height() + 6);
+    connect(cmdSalir, &QPushButton::clicked, this, [this] { cmdSalir_Click(); });
+    connect(Reloj, &QTimer::timeout, this, [this] { Reloj_Timer(); });
+    Reloj_Timer();
+    Reloj->start(kReloj);
+}
+
+void MDIForm1::LlenaGanchos()
+{
+    escena.principal = this;
+    escena.area = area_;
+    escena.muestraMenu = [this] { MuestraMenu(); };
+    escena.ocultaMenu = [] {
+        if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->Ventana().hide();
+    };
+    escena.teclaSalir = [this](int tecla, Qt::KeyboardModifiers estado) { return TeclaSalir(tecla, estado); };
+    escena.muestraGasolinoOndas = [](const QString& titulo) { gasolino_ondas::unica.CargaNueva(titulo); };
+    escena.ponGasolinoOndas = [](int valor) {
+        if (gasolino_ondas* g = gasolino_ondas::unica.Cargado()) g->Pon(valor);
+    };
+    escena.descargaGasolinoOndas = [] { gasolino_ondas::unica.Descarga(); };
+    ganchosRegistro.EscribeSesion = [] { EscribeSesion(store); };
+    ganchosRegistro.MuestraGasolino = [] { gasolino::unica.CargaNueva().show(); };
+    ganchosRegistro.DescargaGasolino = [] { gasolino::unica.Descarga(); };
+    ganchosRegistro.LlenarGasolino = [](bool relativo, std::int16_t valor) {
+        if (gasolino* g = gasolino::unica.Cargado()) g->LlenarGasolino(relativo, valor);
+    };
+    FrmMenu::principal = {[this] { close(); }, [this] { MuestraRegistro(); }, [this] { PonRotulos(); }};
+}
+
+void MDIForm1::MuestraMenu()
+{
+    if (descargado_) return;
+    if (FrmMenu* menu = FrmMenu::unica.Cargado()) {
+        menu->Ventana().showMaximized();
+        area_->setActiveSubWindow(&menu->Ventana());
+    }
+}
+
+void MDIForm1::MDIForm_Load()
+{
+    try {
+        const QRect libre = QApplication::primaryScreen()->availableGeometry();
+        store.AltoPantalla = ATwips(libre.height());
+        store.AnchoPantalla = ATwips(libre.width());
+        setGeometry(libre);
+        const std::string& programa = store.RutaPrograma;
+        store.DirIni = programa.substr(0, programa.size() < 3 ? 0 : programa.size() - 3) + "ini";
+        CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));
+        setCursor(Qt::WaitCursor);
+        store.RegistroAbierto = false;
+        store.PlantillaAplicada = false;
+        show();
+        FrmMenu::unica.CargaNueva();
+        MuestraMenu();
+        setWindowTitle(kTitulo);
+        PonRotulos();
+        LineaOrdenes();
+    } catch (const std::exception&) {
+        const ErrorEjecucion e = ErrorEnVuelo();
+        PunteroNormal();
+        AvisaError(e);
+    }
+    unsetCursor();
+    MuestraMenu();
+}
+
+void MDIForm1::LineaOrdenes()
+{
+    const auto [dat, plantilla] = ParteLinea(linea_);
+    if (dat.empty()) return;
+    AbreDeLinea(dat);
+    PlantillaDeLinea(plantilla);
+    DescargaGasolino();
+}
+
+/// The record counts as open before it is read, and nothing is tested after it.
+void MDIForm1::AbreDeLinea(const std::string& dat)
+{
+    if (!ExisteFichero(dat)) {
+        store.RegistroAbierto = false;
+        return;
+    }
+    NombraPorTronco(store, dat);
+    ReiniciaRegistro(store);
+    AbrirRegistro(store);
+    MuestraRegistro();
+}
+
+void MDIForm1::PlantillaDeLinea(const std::string& plantilla)
+{
+    if (!ExisteFichero(plantilla)) {
+        store.PlantillaAplicada = false;
+        return;
+    }
+    store.FicheroCnf = plantilla;
+    const std::string_view extension = Derecha(plantilla, 3);
+    if (extension != "CNF" && extension != "cnf") {
+        PunteroNormal();
+        Avisa(Textos(147) + " " + plantilla, Icono::Critico);
+        return;
+    }
+    LeerPlantilla(store);
+    LlenarGasolino(true, 5);
+    if (store.VersionPlan == "ver 1.0") return;
+    EscribeSesion(store);
+    if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
+    AplicaPlantilla(store);
+    store.PlantillaAplicada = true;
+}
+
+void MDIForm1::MuestraRegistro()
+{
+    setWindowTitle(kTitulo);
+    Etiqueta->PonRuta(store.RegistroAbierto ? Q(store.FicheroDat) : QString());
+}
+
+void MDIForm1::PonRotulos()
+{
+    cmdSalir->setText(Q(Rotulo(63, "Salir")));
+    ColocaTira();
+}
+
+void MDIForm1::ColocaTira()
+{
+    mnuTime->resize(mnuTime->sizeHint().width(), cmdSalir->sizeHint().height());
+    cmdSalir->resize(cmdSalir->sizeHint());
+    const LugaresTira l =
+        veldix::ColocaTira(ATwips(tira_->width()), ATwips(mnuTime->width()), ATwips(cmdSalir->width()));
+    const int alto = cmdSalir->height();
+    Etiqueta->setGeometry(APixeles(l.izquierdaEtiqueta), 3, qMax(0, APixeles(l.anchoEtiqueta)), alto);
+    cmdSalir->move(APixeles(l.izquierdaSalir), 3);
+    mnuTime->move(APixeles(l.izquierdaReloj), 3);
+}
+
+void MDIForm1::resizeEvent(QResizeEvent* evento)
+{
+    QMainWindow::resizeEvent(evento);
+    tira_->resize(width(), tira_->height());
+    ColocaTira();
+}
+
+void MDIForm1::Reloj_Timer()
+{
+    const QTime ahora = QTime::currentTime();
+    mnuTime->setText(Q(TextoReloj(ahora.hour(), ahora.minute())));
+}
+
+bool MDIForm1::TeclaSalir(int tecla, Qt::KeyboardModifiers estado)
+{
+    if (estado != Qt::AltModifier || (tecla != Qt::Key_S && tecla != Qt::Key_X)) return false;
+    const std::int16_t idioma = LeeIdiomaTools(store);
+    const bool salida = (idioma == 0 && tecla == Qt::Key_X) || (idioma == 1 && tecla == Qt::Key_S);
+    if (salida) cmdSalir->click();
+    return salida;
+}
+
+/// The window's own handler takes either letter, while no child and none of their controls has the focus.
+void MDIForm1::keyPressEvent(QKeyEvent* evento)
+{
+    const bool letra = evento->key() == Qt::Key_S || evento->key() == Qt::Key_X;
+    if (letra && evento->modifiers() == Qt::AltModifier && !FormularioDe(QApplication::focusWidget()))
+        cmdSalir->click();
+    else
+        QMainWindow::keyPressEvent(evento);
+}
+
+void MDIForm1::cmdSalir_Click()
+{
+    QMdiSubWindow* activa = area_->currentSubWindow();
+    auto* vista = activa && activa->isVisible() ? qobject_cast<Vista*>(activa->widget()) : nullptr;
+    Formulario* form = vista ? vista : FrmMenu::unica.Cargado();
+    Atrapa(form, [&] { CierraVista(vista ? vista->Etiqueta() : 8); });
+}
+
+void MDIForm1::CierraVista(int etiqueta)
+{
+    if (etiqueta == 8) {
+        if (Pregunta(Textos(284))) close();
+        return;
+    }
+    if (etiqueta == 5) CierraOndas();
+    veldix::MuestraMenu();
+}
+
+void MDIForm1::CierraOndas()
+{
+    for (int r = 1; r <= store.NumAnalog; ++r)
+        if (frmVerOndas* ventana = store.VentanaOnda(r)) {
+            ventana->setEnabled(true);
+            ventana->Descarga();
+        }
+}
+
+void MDIForm1::MDIForm_Unload()
+{
+    if (descargado_) return;
+    descargado_ = true;
+    Reloj->stop();
+    for (const char* nombre : kOrdenFinal)
+        DescargaTodas(nombre);
+}
+
+/// No question here: those who ask have asked.
+void MDIForm1::closeEvent(QCloseEvent* evento)
+{
+    MDIForm_Unload();
+    evento->accept();
+}
+
+}  // namespace veldix

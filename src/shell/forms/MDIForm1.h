@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QTimer>
+
+#include <string>
+
+namespace veldix {
+
+/// A label that shows as much of a path as fits, its middle left out, and all of it in its tool tip.
+class EtiquetaRuta : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+    void PonRuta(const QString& ruta);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+};
+
+/// The main window: an area of child windows and the permanent strip below it.
+class MDIForm1 : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `rutaPrograma` is the folder of the program, `linea` its arguments joined by blanks.
+    MDIForm1(const std::string& rutaPrograma, std::string linea);
+    ~MDIForm1() override;
+    MDIForm1(const MDIForm1&) = delete;
+    MDIForm1& operator=(const MDIForm1&) = delete;
+
+    /// The start-up steps, from the screen's size to the command line.
+    void MDIForm_Load();
+    /// Unloads every form in its order and closes the window. Does nothing the second time.
+    void MDIForm_Unload();
+
+    /// The common key handler: true where it took the exit key and pressed `cmdSalir`. Raises what reading
+    /// `tools.ini` raises.
+    bool TeclaSalir(int tecla, Qt::KeyboardModifiers estado);
+
+    /// What a record that was opened shows in the window.
+    void MuestraRegistro();
+    /// The captions of the strip in the present language.
+    void PonRotulos();
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void CreaTira();
+    void ColocaTira();
+    void LlenaGanchos();
+    void LineaOrdenes();
+    void AbreDeLinea(const std::string& dat);
+    void PlantillaDeLinea(const std::string& plantilla);
+    void MuestraMenu();
+
+    void Reloj_Timer();
+    void cmdSalir_Click();
+    void CierraVista(int etiqueta);
+    void CierraOndas();
+
+    QMdiArea* area_;
+    QWidget* tira_;
+    EtiquetaRuta* Etiqueta;
+    QLabel* mnuTime;
+    QPushButton* cmdSalir;
+    QTimer* Reloj;
+    std::string linea_;
+    bool descargado_ = false;
+};
+
+}  // namespace veldix

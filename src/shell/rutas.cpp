@@ -1,0 +1,16 @@
+#include "shell/rutas.h"
+
+#include "platform/ficheros.h"
+#include "platform/texto.h"
+
+namespace veldix {
+
+std::string RutaIconos(const std::string& rutaPrograma, const std::string& fichero)
+{
+    const std::size_t corte = Mayusculas(rutaPrograma).rfind("EXE");
+    if (corte == std::string::npos) return {};
+    const std::string carpeta = BuscaSinCaja(rutaPrograma.substr(0, corte) + "Iconos");
+    return BuscaSinCaja(UneRuta(carpeta, fichero));
+}
+
+}  // namespace veldix

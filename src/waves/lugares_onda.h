@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "platform/vista.h"
+
+namespace veldix {
+
+/// A rectangle in twips.
+struct Lugar {
+    double izquierda = 0.0, arriba = 0.0, ancho = 0.0, alto = 0.0;
+    double Derecha() const { return izquierda + ancho; }
+    double Abajo() const { return arriba + alto; }
+};
+
+/// Places of `cuenta` windows of one size, 1 to 8: the left column from top to bottom, then the right one.
+/// Raises 5 for another count.
+std::vector<Lugar> RejillaVentanas(int cuenta, const TamanoVista& vista);
+
+/// Sizes that the layout of a wave window takes from the controls' fonts, in twips.
+struct MedidasOnda {
+    double altoBarra = 240.0;      ///< of a cursor bar
+    double altoEtiqueta = 240.0;   ///< of a label
+    double anchoZoom = 900.0;      ///< of the zoom button, where there is room
+    double anchoReferencia = 0.0;  ///< that the reference label needs
+};
+
+/// Places of the controls of a wave window, in twips of its inside.
+struct LugaresOnda {
+    Lugar picbox;
+    Lugar HScroll1, HScroll2;
+    Lugar lblizq, lblamar, lblder, lblcian;
+    Lugar lblms, lblDif;
+    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
+    Lugar lbl_PS;
+};
+
+/// The layout of a window of the outer size `ancho` x `alto` while `ventanas` wave windows are open: with
+/// more than three the buttons are low and stand without gaps. The zoom button, which the others follow in
+/// width, gives way to the reference label. Nothing where the plot would have no height.
+std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, const MedidasOnda& m);
+
+}  // namespace veldix

@@ -1,0 +1,28 @@
+#include "shell/rutas.h"
+
+#include "support/soporte.h"
+
+namespace veldix {
+namespace {
+
+TEST(Rutas, LosIconosSeBuscanDelanteDelUltimoExe)
+{
+    const prueba::Carpeta carpeta;
+    std::filesystem::create_directories(carpeta.Ruta("exequiel/VELDIX/iconos"));
+    carpeta.Escribe("exequiel/VELDIX/iconos/Onda.AVI", "");
+    const struct {
+        const char* programa;
+        const char* hallado;
+    } casos[] = {
+        {"exequiel/VELDIX/EXE", "exequiel/VELDIX/iconos/Onda.AVI"},
+        {"exequiel/VELDIX/exe", "exequiel/VELDIX/iconos/Onda.AVI"},
+        {"exequiel/VELDIX/EXE/otra", "exequiel/VELDIX/iconos/Onda.AVI"},
+        {"otro/miEXE", "otro/miIconos/onda.avi"},
+    };
+    for (const auto& caso : casos)
+        EXPECT_EQ(RutaIconos(carpeta.Ruta(caso.programa), "onda.avi"), carpeta.Ruta(caso.hallado));
+    EXPECT_EQ(RutaIconos("/opt/veldix/bin", "onda.avi"), "");
+}
+
+}  // namespace
+}  // namespace veldix
