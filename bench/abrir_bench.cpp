@@ -182,8 +182,9 @@ std::array<Octeto, 256> TablaEstados()
     return t;
 }
 
-/// Unpacks every sample into one row that the next one overwrites.
-float BaseBinaria(const std::string& ruta)
+/// Unpacks every sample into one row that the next one overwrites; `guarda` is shown each row.
+template <class Guarda>
+float DesempaquetaTodo(const std::string& ruta, Guarda&& guarda)
 {
     static const std::array<Octeto, 256> estados = TablaEstados();
     veldix::LectorTrozos fichero(ruta);
@@ -209,9 +210,29 @@ float BaseBinaria(const std::string& ruta)
                 std::memcpy(&dig[8 * k], estados[bits[k]].data(), sizeof(Octeto));
             benchmark::DoNotOptimize(fila);
             benchmark::DoNotOptimize(dig);
+            guarda(fila, dig);
         }
     }
     return tiempos;
+}
+
+float BaseBinaria(const std::string& ruta)
+{
+    return DesempaquetaTodo(ruta, [](const auto&, const auto&) {});
+}
+
+/// The same, each row copied into fresh tables: what storing alone adds.
+float BaseGuardada(const std::string& ruta, bool es1997)
+{
+    veldix::Tabla2<float> prim(kMuestras, kAnalogicos), sec;
+    veldix::Tabla2<std::int16_t> estados(kMuestras, kDigitales);
+    if (es1997) sec = veldix::Tabla2<float>(kMuestras, kAnalogicos);
+    int i = 0;
+    return DesempaquetaTodo(ruta, [&](const auto& fila, const auto& dig) {
+        std::memcpy(prim.fila(++i), fila.data(), sizeof fila);
+        if (es1997) std::memcpy(sec.fila(i), fila.data(), sizeof fila);
+        std::memcpy(estados.fila(i), dig.data(), sizeof dig);
+    });
 }
 
 // ---- time ----
@@ -266,6 +287,11 @@ std::string NombreBase(bool ascii)
     return ascii ? "baseline ascii" : "baseline binary";
 }
 
+std::string NombreGuardada(bool es1997)
+{
+    return std::string("baseline stored binary ") + (es1997 ? "1997" : "1991");
+}
+
 void Inscribe(const Registros& registros)
 {
     const auto pon = [](const std::string& nombre, auto&& mide) {
@@ -278,6 +304,11 @@ void Inscribe(const Registros& registros)
     for (const bool ascii : {true, false})
         pon(NombreBase(ascii),
             [&registros, ascii](benchmark::State& e) { Base(e, registros.Dat(ascii), ascii); });
+    for (const bool es1997 : {true, false})
+        pon(NombreGuardada(es1997), [&registros, es1997](benchmark::State& e) {
+            for (auto _ : e)
+                benchmark::DoNotOptimize(BaseGuardada(registros.Dat(false), es1997));
+        });
     for (const Caso& caso : kCasos) {
         const std::string nombre = std::string("abrir ") + caso.nombre;
         pon(nombre, [&registros, &caso](benchmark::State& e) { Abre(e, registros, caso, false); });
@@ -291,16 +322,17 @@ void MideTiempos(const Registros& registros)
     Inscribe(registros);
     Colector c;
     benchmark::RunSpecifiedBenchmarks(&c);
+    const auto escribe = [&c](const std::string& nombre, bool ascii) {
+        const double t = c.Mejor(nombre), base = c.Mejor(NombreBase(ascii));
+        if (!std::isnan(t)) std::printf("%s / baseline = %.2f   (%.2f ms)\n", nombre.c_str(), t / base, t);
+    };
+    for (const bool es1997 : {true, false})
+        escribe(NombreGuardada(es1997), false);
+    for (const Caso& caso : kCasos)
+        for (const char* fin : {"", " freeing"})
+            escribe(std::string("abrir ") + caso.nombre + fin, caso.ascii);
     for (const bool ascii : {true, false})
-        std::printf("%-28s %8.2f ms\n", NombreBase(ascii).c_str(), c.Mejor(NombreBase(ascii)));
-    for (const Caso& caso : kCasos) {
-        const double base = c.Mejor(NombreBase(caso.ascii));
-        for (const char* fin : {"", " freeing"}) {
-            const std::string nombre = std::string("abrir ") + caso.nombre + fin;
-            const double t = c.Mejor(nombre);
-            std::printf("%-28s %8.2f ms   / baseline = %.2f\n", nombre.c_str(), t, t / base);
-        }
-    }
+        escribe(NombreBase(ascii), ascii);
 }
 
 // ---- memory ----

@@ -57,8 +57,7 @@ protected:
         std::vector<std::string> lineas{linea1, "1," + std::to_string(analog) + "A,0D"};
         for (int c = 0; c < analog; ++c)
             lineas.emplace_back("1,IA,A,C,kA,2,0,0,-1,1,1,1,P");
-        for (const char* l : {"50", "1", "1000,2", "f", "g", formato, "1"})
-            lineas.emplace_back(l);
+        lineas.insert(lineas.end(), {"50", "1", "1000,2", "f", "g", formato, "1"});
         s.FicheroCfg = carpeta.Escribe("rec.cfg", Une(lineas));
         s.FicheroDat = carpeta.Escribe("rec.dat", dat);
         hechos.clear();

@@ -83,11 +83,11 @@ TEST(LeerDat, ScalingAndRawValuesWrong)
     a.FactorA(3) = 0.1F;
     a.FactorB(3) = 0.3F;
     RecordStore b = a;
-    LeeAscii(a, "1,-5,100,-7,3,0,1\r\n2,995,-32768,32767,7,1,0\r\n");
-    LeeBin(b, Muestra(1, -5, {100, -7, 3, 2}) + Muestra(2, 995, {-32768, 32767, 7, 1}));
+    LeeAscii(a, "1,-5,100,-7,10,0,1\r\n2,995,-32768,32767,13,1,0\r\n");
+    LeeBin(b, Muestra(1, -5, {100, -7, 10, 2}) + Muestra(2, 995, {-32768, 32767, 13, 1}));
     for (const RecordStore* s : {&a, &b}) {
-        EXPECT_EQ(Fila(s->Muestras, 1), "100 -14.5 0.600000024");  // in double: 0.60000001639127731
-        EXPECT_EQ(Fila(s->Muestras, 2), "-32768 65533.5 1");
+        EXPECT_EQ(Fila(s->Muestras, 1), "100 -14.5 1.30000007");  // rounded once: twice gives 1.29999995
+        EXPECT_EQ(Fila(s->Muestras, 2), "-32768 65533.5 1.60000002");
         EXPECT_EQ(Fila(s->MuestrasDig, 1) + '/' + Fila(s->MuestrasDig, 2), "0 1/1 0");
         EXPECT_EQ(s->Tiempos(1), -5);
         EXPECT_EQ(s->Tiempos(2), 995);
@@ -219,6 +219,7 @@ TEST(LeerDatAscii, BrokenLineMisread)
         {"2", 2, "0/0 0/0 0"},
         {"", 2, "0/0 0/0 0"},
         {"2,20,,5,,1", 2, "20/0 10/0 1"},
+        {"2,20,4,5,,,1", 3, "20/4 10/0 0 1"},
         {"2,20,x,5,y,1", 2, "20/0 10/0 1"},
         {"2,20,3A,5 ,1 , 1", 2, "20/0 10/1 1"},
         {"x,zz,+4,-5,1.0,2", 2, "0/4 -10/1 2"},

@@ -4,7 +4,7 @@
 
 #include <sstream>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "platform/avisos.h"
 #include "platform/ficheros.h"
@@ -17,7 +17,6 @@ namespace {
 using prueba::Carpeta;
 using prueba::LeeTodo;
 using prueba::RespondeCajas;
-using Lista = std::vector<std::string>;
 
 template <class F>
 int NumeroDeError(F f)
@@ -30,215 +29,117 @@ int NumeroDeError(F f)
     return 0;
 }
 
-void Lee(RecordStore& s, const Lista& lineas)
+/// Reads a template whose lines stand between "|".
+RecordStore Leida(const std::string& lineas, RecordStore s = {})
 {
+    std::string texto;
+    for (const char c : lineas + "|")
+        c == '|' ? texto += "\r\n" : texto += c;
     const Carpeta carpeta;
-    s.FicheroCnf = carpeta.Escribe("p.cnf", Une(lineas));
+    s.FicheroCnf = carpeta.Escribe("p.cnf", texto);
     LeerPlantilla(s);
+    return s;
 }
 
-Lista operator+(Lista a, const Lista& b)
+std::string Cuentas(const RecordStore& s)
 {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
+    std::ostringstream o;
+    o << s.NumCanalPlan << ' ' << s.NumTrifasicPlan << ' ' << s.NumCanalDigPlan << ' ' << s.NumGruposDigPlan;
+    return o.str();
 }
-
-/// Rows of each table, fields joined by "/".
 std::string Analog(const RecordStore& s)
 {
-    std::ostringstream o;
+    std::string o;
     for (const FilaCanal& f : s.CanalesPlan)
-        o << f.Numero << '/' << f.Nombre << '/' << f.Circuito << '/' << f.Unidades << ' ';
-    return o.str();
-}
-std::string Trifasicos(const RecordStore& s)
-{
-    std::ostringstream o;
-    for (const FilaTrifasic& f : s.TrifasicPlan)
-        o << f.Fase(1) << '/' << f.Fase(2) << '/' << f.Fase(3) << '/' << f.Nombre << '/' << f.Factor << ' ';
-    return o.str();
-}
-std::string Grupos(const RecordStore& s)
-{
-    std::ostringstream o;
-    for (const FilaGrupoDig& f : s.GruposDigPlan)
-        o << f.Nombre << '/' << f.Cuenta << ' ';
-    return o.str();
+        o += f.Numero + ',' + f.Nombre + ',' + f.Circuito + ',' + f.Unidades + ';';
+    return o;
 }
 std::string Digitales(const RecordStore& s)
 {
-    std::ostringstream o;
+    std::string o;
     for (const FilaCanalDig& f : s.CanalesDigPlan)
-        o << f.Numero << '/' << f.Nombre << ' ';
+        o += f.Numero + ',' + f.Nombre + ';';
+    return o;
+}
+/// All counts and tables of the template set.
+std::string Resumen(const RecordStore& s)
+{
+    std::ostringstream o;
+    o << Cuentas(s) << " A " << Analog(s) << " T ";
+    for (const FilaTrifasic& f : s.TrifasicPlan)
+        o << f.Fase(1) << ',' << f.Fase(2) << ',' << f.Fase(3) << ',' << f.Nombre << ',' << f.Factor << ';';
+    o << " G ";
+    for (const FilaGrupoDig& f : s.GruposDigPlan)
+        o << f.Nombre << ',' << f.Cuenta << ';';
+    o << " D " << Digitales(s);
     return o.str();
 }
-std::vector<int> Cuentas(const RecordStore& s)
-{
-    return {s.NumCanalPlan, s.NumTrifasicPlan, s.NumCanalDigPlan, s.NumGruposDigPlan};
-}
 
-/// A store with one earlier row in every table of the template set.
+/// A store with earlier rows in every table of the template set.
 RecordStore ConAntes()
 {
-    RecordStore s;
-    Lee(s, {"ver 1.1", "ANTES", "ANALOGICOS", "2", "8%a%b%c$", "9%d%e%f$", "TRIFASICOS", "1", "7%8%9%g%h$",
-            "DIGITALES", "1", "1", "***", "G", "1", "6%i$", "-----"});
+    RecordStore s = Leida(
+        "ver "
+        "1.1|ANTES|ANALOGICOS|2|8%a%b%c$|9%d%e%f$|TRIFASICOS|1|7%8%9%g%h$|DIGITALES|1|1|***|G|1|6%i$|-----");
+    EXPECT_EQ(Resumen(s), "2 1 1 1 A 8,a,b,c;9,d,e,f; T 7,8,9,g,h; G G,1; D 6,i;");
     return s;
 }
-const char* const kAnalogAntes = "8/a/b/c 9/d/e/f ";
-const char* const kTrifAntes = "7/8/9/g/h ";
+const char* const kAnalogAntes = "8,a,b,c;9,d,e,f;";
 
 TEST(LeerPlantilla, BrokenSeparatorsStopTheReading)
 {
     RecordStore s;
     s.PlantillaNoValida = true;
-    Lee(s, {"ver 1.1",    "SE NORTE", "ANALOGICOS",   " 3 ",       "1%IA%A$", "2%I$B%B%kA$", "3%IC%C%k%A$",
-            "TRIFASICOS", "1",        "1%2%3%LINEA$", "DIGITALES", "3",       " 2 ",         "***",
-            "G1",         "2",        "4%50%51$",     "5Reeng$",   "***",     "G2",          "1",
-            "9%TR$IP$"});
+    s = Leida(
+        "ver 1.1|SE NORTE|ANALOGICOS| 3 "
+        "|1%IA%A$|2%I$B%B%kA$|3%IC%C%k%A$|TRIFASICOS|1|1%2%3%LINEA$|DIGITALES|3"
+        "| 2 |***|G1|2|4%50%51$|5Reeng$|***|G2|1|9%TR$IP$",
+        s);
     EXPECT_EQ(s.VersionPlan + s.EstacionPlan, "ver 1.1SE NORTE");
-    EXPECT_EQ(Analog(s), "1/IA//1%IA%A 2/I$B/B/kA 3/IC/C/k%A ");
-    EXPECT_EQ(Trifasicos(s), "1/2/3//1%2%3%LINEA ");
-    EXPECT_EQ(Grupos(s), "G1/2 G2/1 ");
-    EXPECT_EQ(Digitales(s), "4/50%51 /5Reeng 9/TR ");
-    EXPECT_EQ(Cuentas(s), (std::vector<int>{3, 1, 3, 2}));
+    EXPECT_EQ(Resumen(s),
+              "3 1 3 2 A 1,IA,,1%IA%A;2,I$B,B,kA;3,IC,C,k%A; T 1,2,3,,1%2%3%LINEA; G G1,2;G2,1;"
+              " D 4,50%51;,5Reeng;9,TR;");
     EXPECT_FALSE(s.PlantillaNoValida);
 }
 
 TEST(LeerPlantilla, CountOrMissingSectionMisread)
 {
-    const Lista cabeza{"ver 1.1", "X"};
-    const Lista digital{"DIGITALES", "2", "1", "any", "D", "2", "1%u$", "2%v$", "-----"};
-    struct {
-        const char* nombre;
-        Lista lineas;
-        std::vector<int> cuentas;
-        const char *analog, *trif, *grupos, *digitales;
-    } const casos[] = {
-        {"no sections", {"-----"}, {0, 0, 0, 0}, kAnalogAntes, kTrifAntes, "G/1 ", "6/i "},
-        {"digital alone", digital, {0, 0, 2, 1}, kAnalogAntes, kTrifAntes, "D/2 ", "1/u 2/v "},
-        {"analog alone",
-         {"ANALOGICOS", " 1", "1%p%q%r$"},
-         {1, 0, 0, 0},
-         "1/p/q/r ",
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"header with a blank",
-         Lista{"ANALOGICOS ", "1", "1%p%q%r$"} + digital,
-         {0, 0, 0, 0},
-         kAnalogAntes,
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"analog count no number",
-         Lista{"ANALOGICOS", "x", "1%p%q%r$", "2%s%t%u$"} + digital,
-         {2, 0, 2, 1},
-         "1/p/q/r 2/s/t/u ",
-         kTrifAntes,
-         "D/2 ",
-         "1/u 2/v "},
-        {"counts zero",
-         Lista{"ANALOGICOS", "0", "TRIFASICOS", " 0 "} + digital,
-         {0, 0, 2, 1},
-         kAnalogAntes,
-         kTrifAntes,
-         "D/2 ",
-         "1/u 2/v "},
-        {"analog count negative",
-         Lista{"ANALOGICOS", "-3 "} + digital,
-         {-3, 0, 2, 1},
-         nullptr,
-         kTrifAntes,
-         "D/2 ",
-         "1/u 2/v "},
-        {"three-phase count no number",
-         Lista{"TRIFASICOS", "", "1%2%3%n%2,5$"} + digital,
-         {0, 1, 2, 1},
-         kAnalogAntes,
-         "1/2/3/n/2,5 ",
-         "D/2 ",
-         "1/u 2/v "},
-        {"phases no number",
-         {"TRIFASICOS", "2", "a%2%40000%n%$", "4%5%6%m%k$"},
-         {0, 2, 0, 0},
-         kAnalogAntes,
-         "0/2/0/n/ 4/5/6/m/k ",
-         "G/1 ",
-         "6/i "},
-        {"empty digital total",
-         {"DIGITALES", "", "2"},
-         {0, 0, 0, 1},
-         kAnalogAntes,
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"empty group count",
-         {"DIGITALES", "5", "", "***"},
-         {0, 0, 5, 0},
-         kAnalogAntes,
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"no groups",
-         {"DIGITALES", "5", " 0 ", "-----"},
-         {0, 0, 5, 0},
-         kAnalogAntes,
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"member count no number",
-         {"DIGITALES", "1", "2", "***", "D", "x", "***", "E", "1", "3%w$"},
-         {0, 0, 1, 2},
-         kAnalogAntes,
-         kTrifAntes,
-         "D/x E/1 ",
-         "3/w "},
-        {"members past the total",
-         {"DIGITALES", "2", "2", "***", "D", "3", "1%u$", "2%v$", "3%w$", "***", "E", "002", "4%y$", "5%z$",
-          "-----"},
-         {0, 0, 2, 2},
-         kAnalogAntes,
-         kTrifAntes,
-         "D/3 E/002 ",
-         "1/u 2/v "},
-        {"analog rows run out",
-         {"ANALOGICOS", "3", "1%p%q%r$"},
-         {3, 0, 0, 0},
-         "1/p/q/r 1/p/q/r 1/p/q/r ",
-         kTrifAntes,
-         "G/1 ",
-         "6/i "},
-        {"groups run out",
-         {"DIGITALES", "4", "3", "***", "D", "3", "1%u$", "2%v$"},
-         {0, 0, 4, 3},
-         kAnalogAntes,
-         kTrifAntes,
-         "D/3 / / ",
-         "1/u 2/v 2/v / "},
+    const std::string aAntes = " A 8,a,b,c;9,d,e,f;", tAntes = " T 7,8,9,g,h;", antes = aAntes + tAntes;
+    const std::string digital = "|DIGITALES|2|1|any|D|2|1%u$|2%v$|-----", leido = " G D,2; D 1,u;2,v;";
+    const std::string dAntes = " G G,1; D 6,i;";
+    const std::pair<std::string, std::string> casos[] = {
+        {"-----", "0 0 0 0" + antes + dAntes},
+        {"ANALOGICOS| 1|1%p%q%r$", "1 0 0 0 A 1,p,q,r;" + tAntes + dAntes},
+        {"ANALOGICOS |1|1%p%q%r$" + digital, "0 0 0 0" + antes + dAntes},
+        // No number: the count stays.
+        {"ANALOGICOS|x|1%p%q%r$|2%s%t%u$" + digital, "2 0 2 1 A 1,p,q,r;2,s,t,u;" + tAntes + leido},
+        {"TRIFASICOS||1%2%3%n%2,5$" + digital, "0 1 2 1" + aAntes + " T 1,2,3,n,2,5;" + leido},
+        // Zero and below: no rows; only the analog table is erased before it cannot be sized.
+        {"ANALOGICOS|0|TRIFASICOS| 0 " + digital, "0 0 2 1 A " + tAntes + leido},
+        {"ANALOGICOS|-3 |TRIFASICOS|-1" + digital, "-3 -1 2 1 A " + tAntes + leido},
+        {"TRIFASICOS|2|a%2%40000%n%$|4%5%6%m%k$", "0 2 0 0" + aAntes + " T 0,2,0,n,;4,5,6,m,k;" + dAntes},
+        {digital.substr(1), "0 0 2 1" + antes + leido},
+        {"DIGITALES||2", "0 0 0 1" + antes + dAntes},
+        {"DIGITALES|5||***", "0 0 5 0" + antes + dAntes},
+        {"DIGITALES|5| 0 |-----", "0 0 5 0" + antes + dAntes},
+        {"DIGITALES|1|2|***|D|x|***|E|1|3%w$", "0 0 1 2" + antes + " G D,x;E,1; D 3,w;"},
+        // More members than announced are read and dropped.
+        {"DIGITALES|2|2|***|D|3|1%u$|2%v$|3%w$|***|E|002|4%y$|5%z$|--",
+         "0 0 2 2" + antes + " G D,3;E,002; D 1,u;2,v;"},
+        // The file ends early: rows repeat the last line, names stay empty.
+        {"ANALOGICOS|3|1%p%q%r$", "3 0 0 0 A 1,p,q,r;1,p,q,r;1,p,q,r;" + tAntes + dAntes},
+        {"DIGITALES|4|3|***|D|3|1%u$|2%v$", "0 0 4 3" + antes + " G D,3;,;,; D 1,u;2,v;2,v;,;"},
     };
-    for (const auto& c : casos) {
-        SCOPED_TRACE(c.nombre);
-        RecordStore s = ConAntes();
-        ASSERT_EQ(Cuentas(s), (std::vector<int>{2, 1, 1, 1}));
-        Lee(s, cabeza + c.lineas);
-        EXPECT_EQ(s.EstacionPlan, "X");
-        EXPECT_EQ(Cuentas(s), c.cuentas);
-        if (c.analog != nullptr) {
-            EXPECT_EQ(Analog(s), c.analog);
-        }
-        EXPECT_EQ(Trifasicos(s), c.trif);
-        EXPECT_EQ(Grupos(s), c.grupos);
-        EXPECT_EQ(Digitales(s), c.digitales);
-    }
+    for (const auto& [lineas, resumen] : casos)
+        EXPECT_EQ(Resumen(Leida("ver 1.1|X|" + lineas, ConAntes())), resumen) << lineas;
 }
 
 TEST(LeerPlantilla, VanishedFileLeavesOldCounts)
 {
     RecordStore s = ConAntes();
     s.PlantillaNoValida = true;
-    LeerPlantilla(s);  // its folder went with Lee
-    EXPECT_EQ(Cuentas(s), (std::vector<int>{0, 0, 0, 0}));
+    LeerPlantilla(s);  // its folder went with Leida
+    EXPECT_EQ(Resumen(s), "0 0 0 0 A 8,a,b,c;9,d,e,f; T 7,8,9,g,h; G G,1; D 6,i;");
     EXPECT_EQ(s.VersionPlan + s.EstacionPlan, "ver 1.1ANTES");
     EXPECT_FALSE(s.PlantillaNoValida);
 }
@@ -253,21 +154,19 @@ TEST(LeerPlantilla, VersionRuleTooWideOrTooNarrow)
     int punteros = 0;
     PonPunteroNormal([&] { ++punteros; });
     RespondeCajas cajas;
-    for (const char* version : {"ver 1.0 ", "VER 1.0", "ver 1.01", "ver 9.9", ""}) {
-        RecordStore s = ConAntes();
-        Lee(s, {version, "NUEVA", "ANALOGICOS", "1", "1%p%q%r$"});
+    const std::string resto = "|NUEVA|ANALOGICOS|1|1%p%q%r$";
+    for (const std::string version : {"ver 1.0 ", "VER 1.0", "ver 1.01", "ver 9.9", ""}) {
+        const RecordStore s = Leida(version + resto, ConAntes());
         EXPECT_EQ(s.VersionPlan, version);
-        EXPECT_EQ(Analog(s), "1/p/q/r ") << version;
+        EXPECT_EQ(Analog(s), "1,p,q,r;") << version;
     }
     EXPECT_EQ(punteros, 0);
     cajas.Espera("Texto 172", Icono::Critico);
     RecordStore s = ConAntes();
     s.PlantillaNoValida = true;
-    Lee(s, {"ver 1.0", "NUEVA", "ANALOGICOS", "1", "1%p%q%r$"});
-    EXPECT_EQ(s.VersionPlan, "ver 1.0");
-    EXPECT_EQ(s.EstacionPlan, "ANTES");
-    EXPECT_EQ(Cuentas(s), (std::vector<int>{2, 1, 1, 1}));
-    EXPECT_EQ(Analog(s), kAnalogAntes);
+    s = Leida("ver 1.0" + resto, s);
+    EXPECT_EQ(s.VersionPlan + s.EstacionPlan, "ver 1.0ANTES");
+    EXPECT_EQ(Cuentas(s) + Analog(s), std::string("2 1 1 1") + kAnalogAntes);
     EXPECT_FALSE(s.PlantillaNoValida);
     EXPECT_EQ(punteros, 1);
     PonPunteroNormal(nullptr);
@@ -276,42 +175,41 @@ TEST(LeerPlantilla, VersionRuleTooWideOrTooNarrow)
 
 TEST(LeerPlantilla, FitCheckRunsUnderTheWrongFlags)
 {
-    const Lista analog{"ver 1.1", "X", "ANALOGICOS", "3", "1%p%q%r$", "2%p%q%r$", "3%p%q%r$", "-----"};
-    const Lista digital{"ver 1.1", "X", "DIGITALES", "3",     "1",    "***",
-                        "D",       "3", "16%u$",     "17%v$", "1%w$", "--"};
     for (int bits = 0; bits < 8; ++bits) {
+        SCOPED_TRACE(bits);
+        const bool rechaza = bits == 3;
         RecordStore s = ConAntes();
         s.NumAnalog = 2;
         s.NumDigital = 16;
         s.RegistroAbierto = (bits & 1) != 0;
         s.PlantillaAplicada = (bits & 2) != 0;
         s.PlantillaModifica = (bits & 4) != 0;
-        RecordStore t = s;
-        Lee(s, analog);
-        EXPECT_EQ(s.PlantillaNoValida, bits == 3) << bits;
-        EXPECT_EQ(Analog(s), bits == 3 ? kAnalogAntes : "1/p/q/r 2/p/q/r 3/p/q/r ") << bits;
-        EXPECT_EQ(Cuentas(s), bits == 3 ? (std::vector<int>{3, 1, 1, 1}) : (std::vector<int>{3, 0, 0, 0}));
-        EXPECT_EQ(s.EstacionPlan, "X");
-        Lee(t, digital);
-        EXPECT_EQ(t.PlantillaNoValida, bits == 3) << bits;
-        ASSERT_EQ(t.CanalesDigPlan.Cuantos(), 3) << bits;
-        EXPECT_EQ(t.CanalesDigPlan(1).Nombre, "u") << bits;
-        EXPECT_EQ(t.CanalesDigPlan(3).Nombre, bits == 3 ? "" : "w") << bits;
+        const RecordStore a = Leida("ver 1.1|X|ANALOGICOS|3|1%p%q%r$|2%p%q%r$|3%p%q%r$|-----", s);
+        EXPECT_EQ(a.PlantillaNoValida, rechaza);
+        EXPECT_EQ(Analog(a), rechaza ? kAnalogAntes : "1,p,q,r;2,p,q,r;3,p,q,r;");
+        EXPECT_EQ(Cuentas(a), rechaza ? "3 1 1 1" : "3 0 0 0");
+        EXPECT_EQ(a.EstacionPlan, "X");
+        const RecordStore d = Leida("ver 1.1|X|DIGITALES|3|1|***|D|3|16%u$|17%v$|1%w$|-----", s);
+        EXPECT_EQ(d.PlantillaNoValida, rechaza);
+        ASSERT_EQ(d.CanalesDigPlan.Cuantos(), 3);
+        EXPECT_EQ(d.CanalesDigPlan(1).Nombre, "u");
+        EXPECT_EQ(d.CanalesDigPlan(3).Nombre, rechaza ? "" : "w");
     }
 }
 
 TEST(LeerPlantilla, FittingTemplateRefused)
 {
-    RecordStore s = ConAntes();
+    RecordStore s;
     s.NumAnalog = 2;
     s.NumDigital = 16;
     s.RegistroAbierto = s.PlantillaAplicada = s.PlantillaNoValida = true;
     // Row numbers, phases and the total are not compared, nor are rows past the total or without a number.
-    Lee(s, {"ver 1.1", "X", "ANALOGICOS", "2", "90%p%q%r$", "91%p%q%r$", "TRIFASICOS", "1", "70%71%72%n%1$",
-            "DIGITALES", "2", "1", "***", "D", "3", "x%u$", "16%v$", "99%w$", "-----"});
+    s = Leida(
+        "ver 1.1|X|ANALOGICOS|2|90%p%q%r$|91%p%q%r$|TRIFASICOS|1|70%71%72%n%1$|DIGITALES|2|1|***|D|3|x%u$"
+        "|16%v$|99%w$|-----",
+        s);
     EXPECT_FALSE(s.PlantillaNoValida);
-    EXPECT_EQ(Digitales(s), "x/u 16/v ");
-    EXPECT_EQ(Trifasicos(s), "70/71/72/n/1 ");
+    EXPECT_EQ(Resumen(s), "2 1 2 1 A 90,p,q,r;91,p,q,r; T 70,71,72,n,1; G D,3; D x,u;16,v;");
 }
 
 TEST(AplicaPlantilla, WorkingSetKeepsEarlierRows)
@@ -319,20 +217,16 @@ TEST(AplicaPlantilla, WorkingSetKeepsEarlierRows)
     RecordStore s = ConAntes();
     s.NumCanalPlan = 3;  // one more than the table has
     s.Canales = Tabla1<FilaCanal>(5);
-    s.NumCanalAnalog = 5;
     s.CanalesDig = Tabla1<FilaCanalDig>(4);
     AplicaPlantilla(s);
     EXPECT_EQ(s.VersionPlantilla + s.NombreEstacion, "ver 1.1ANTES");
-    EXPECT_EQ(s.NumCanalAnalog, 3);
+    EXPECT_EQ(s.NumCanalAnalog * 1000 + s.NumTrifasic * 100 + s.NumCanalDig * 10 + s.NumGruposDig, 3111);
     ASSERT_EQ(s.Canales.Cuantos(), 3);
     EXPECT_EQ(s.Canales(2).Unidades + s.Canales(3).Nombre, "f");
-    ASSERT_EQ(s.NumTrifasic, 1);
-    EXPECT_EQ(s.Trifasic(1).Fase(3), 9);
-    EXPECT_EQ(s.Trifasic(1).Factor, "h");
+    EXPECT_EQ(s.Trifasic(1).Factor + std::to_string(s.Trifasic(1).Fase(3)), "h9");
     ASSERT_EQ(s.CanalesDig.Cuantos(), 1);
     EXPECT_EQ(s.CanalesDig(1).Numero + s.CanalesDig(1).Nombre, "6i");
     EXPECT_EQ(s.GruposDig(1).Nombre + s.GruposDig(1).Cuenta, "G1");
-    EXPECT_EQ(s.NumCanalDig * 10 + s.NumGruposDig, 11);
     LeerPlantilla(s);  // vanished: the empty set is applied
     AplicaPlantilla(s);
     EXPECT_EQ(s.NumCanalAnalog + s.NumTrifasic + s.NumCanalDig + s.NumGruposDig, 0);
@@ -360,7 +254,7 @@ TEST(GrabarPlantilla, DemonstrationTemplateChangedByReadingAndWriting)
     RecordStore s;
     s.FicheroCnf = origen;
     LeerPlantilla(s);
-    ASSERT_EQ(Cuentas(s), (std::vector<int>{8, 2, 24, 4}));
+    ASSERT_EQ(Cuentas(s), "8 2 24 4");
     EXPECT_EQ(s.CanalesPlan(1).Nombre, "Tensión fase A");
     LlenaEdicion(s);
     const Carpeta carpeta;
@@ -375,9 +269,6 @@ TEST(GrabarPlantilla, LinesOrOctetsDifferFromTheFormat)
     s.EstacionPlan = "Año Ω€";
     const Carpeta carpeta;
     const std::string ruta = carpeta.Escribe("p.cnf", std::string(5000, 'x'));
-    GrabarPlantilla(s, ruta);
-    EXPECT_EQ(LeeTodo(ruta), "ver 1.1\r\nA\xF1o ?\x80\r\n-----\r\n");
-
     s.NumCanalDigPlan = 12;  // digital channels, no groups
     GrabarPlantilla(s, ruta);
     EXPECT_EQ(LeeTodo(ruta), "ver 1.1\r\nA\xF1o ?\x80\r\nDIGITALES\r\n12\r\n 0 \r\n-----\r\n");

@@ -1,6 +1,7 @@
 #include "platform/forms/ListaCarpetas.h"
 
 #include <QDir>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
@@ -81,6 +82,8 @@ ListaCarpetas::ListaCarpetas(QWidget* padre) : QTreeWidget(padre)
     setExpandsOnDoubleClick(false);
     setIndentation(kSangria);
     setUniformRowHeights(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* linea) { Entra(linea); });
     const std::string aqui = U(QDir::currentPath());
     Pon(ExisteCarpeta(aqui) ? aqui : U(QDir::rootPath()));
@@ -117,6 +120,26 @@ void ListaCarpetas::Llena()
     actual->addChildren(lineas);
     expandAll();
     setCurrentItem(actual);
+    MuestraActual();
+}
+
+/// The folder with some of what is above and below it.
+void ListaCarpetas::MuestraActual()
+{
+    scrollToItem(currentItem(), PositionAtCenter);
+}
+
+/// Lines are as wide as the list at least, so that all of it takes clicks; wider ones scroll.
+void ListaCarpetas::resizeEvent(QResizeEvent* evento)
+{
+    QTreeWidget::resizeEvent(evento);
+    header()->setMinimumSectionSize(viewport()->width());
+}
+
+void ListaCarpetas::showEvent(QShowEvent* evento)
+{
+    QTreeWidget::showEvent(evento);
+    MuestraActual();
 }
 
 void ListaCarpetas::Entra(QTreeWidgetItem* linea)
@@ -138,7 +161,7 @@ void ListaCarpetas::keyPressEvent(QKeyEvent* evento)
 
 QSize ListaCarpetas::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 11};
+    return {fontMetrics().averageCharWidth() * 34, fontMetrics().height() * 14};
 }
 
 ListaFicheros::ListaFicheros(QWidget* padre) : QListWidget(padre)

@@ -45,10 +45,14 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
 
 private:
     void Entra(QTreeWidgetItem* linea);
     void Llena();
+    void MuestraActual();
 
     std::string ruta_;
 };

@@ -17,7 +17,7 @@ constexpr int kEsperaMs = 200;
 void MuestraPintada(QWidget& ventana)
 {
     ventana.show();
-    ventana.raise();
+    if (!ventana.isWindow()) ventana.raise();
     PasaCola();
     QElapsedTimer reloj;
     reloj.start();

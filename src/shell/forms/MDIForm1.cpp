@@ -69,7 +69,7 @@ void EtiquetaRuta::paintEvent(QPaintEvent*)
 MDIForm1::MDIForm1(const std::string& rutaPrograma, std::string linea) : linea_(std::move(linea))
 {
     setObjectName("MDIForm1");
-    setWindowIcon(IconoPrograma());
+    QApplication::setWindowIcon(IconoPrograma());
     store.RutaPrograma = rutaPrograma;
     auto* centro = new QWidget(this);
     auto* columna = new QVBoxLayout(centro);

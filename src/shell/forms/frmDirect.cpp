@@ -69,6 +69,7 @@ void frmDirect::Dispone()
     columnas->setSpacing(16);
     for (const Carpeta* carpeta : Carpetas()) {
         auto* columna = new QVBoxLayout;
+        columna->setSpacing(6);
         columna->addWidget(carpeta->rotulo);
         columna->addWidget(carpeta->txt);
         columna->addWidget(carpeta->drv);

@@ -31,6 +31,19 @@ QScrollBar* CreaBarra(QWidget* padre, const char* nombre, const QString& accesib
     return b;
 }
 
+/// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
+void PonTexto(QLabel* etiqueta, const QString& texto)
+{
+    constexpr int kMenorAncho = 60;  // percent
+    QFont letra = etiqueta->font();
+    letra.setStretch(QFont::Unstretched);
+    const int pide = QFontMetrics(letra).horizontalAdvance(texto);
+    if (pide > etiqueta->width() && etiqueta->width() > 0)
+        letra.setStretch(qMax(kMenorAncho, 100 * etiqueta->width() / pide));
+    etiqueta->setFont(letra);
+    etiqueta->setText(texto);
+}
+
 void Coloca(QWidget* w, const Lugar& l)
 {
     w->setGeometry(APixeles(l.izquierda), APixeles(l.arriba), APixeles(l.ancho), APixeles(l.alto));
@@ -66,8 +79,6 @@ void frmVerOndas::CreaControles()
     lblms = CreaEtiqueta(this, "lblms");
     lblDif = CreaEtiqueta(this, "lblDif");
     lbl_PS = CreaEtiqueta(this, "lbl_PS");
-    for (QLabel* l : {lblamar, lblcian})
-        l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void frmVerOndas::CreaBotones()
@@ -157,16 +168,6 @@ void frmVerOndas::ColocaBarras(const LugaresOnda& l)
 
 void frmVerOndas::ColocaTextos(const LugaresOnda& l)
 {
-    const std::string& unidades = store.Canales(Canal_).Unidades;
-    const QString valor = Q(TextoValor(store.Muestras(1, columna_), unidades));
-    lblizq->setText(Q(TextoMuestra(1)));
-    lblder->setText(Q(TextoMuestra(1)));
-    lblamar->setText(valor);
-    lblcian->setText(valor);
-    lblms->setText("0.000 ms");
-    lblDif->setText(Q("0.000 " + unidades));
-    textoMs_ = lblms->text();
-    textoDif_ = lblDif->text();
     veldix::Coloca(lblizq, l.lblizq);
     veldix::Coloca(lblamar, l.lblamar);
     veldix::Coloca(lblder, l.lblder);
@@ -177,6 +178,16 @@ void frmVerOndas::ColocaTextos(const LugaresOnda& l)
     veldix::Coloca(cmdadel, l.cmdadel);
     veldix::Coloca(cmdatras, l.cmdatras);
     veldix::Coloca(pctimpresora, l.pctimpresora);
+    const std::string& unidades = store.Canales(Canal_).Unidades;
+    const QString valor = Q(TextoValor(store.Muestras(1, columna_), unidades));
+    PonTexto(lblizq, Q(TextoMuestra(1)));
+    PonTexto(lblder, Q(TextoMuestra(1)));
+    PonTexto(lblamar, valor);
+    PonTexto(lblcian, valor);
+    PonTexto(lblms, "0.000 ms");
+    PonTexto(lblDif, Q("0.000 " + unidades));
+    textoMs_ = lblms->text();
+    textoDif_ = lblDif->text();
     // In a narrow window the caption alone tells more than a picture and half a word.
     const bool cabe = l.cmdzoom.ancho >= ATwips(cmdzoom->sizeHint().width());
     cmdzoom->setIcon(cabe ? IconoZoom() : QIcon());
@@ -269,12 +280,12 @@ void frmVerOndas::CambiaCursor(LineaSobre* linea, float& cursor)
     if (cursor < 0.0F || cursor > static_cast<float>(ultima_)) return;
     const std::string& unidades = store.Canales(Canal_).Unidades;
     const float v1 = store.Muestras(m1, columna_), v2 = store.Muestras(m2, columna_);
-    lblizq->setText(Q(TextoMuestra(m1)));
-    lblder->setText(Q(TextoMuestra(m2)));
-    lblamar->setText(Q(TextoValor(v1, unidades)));
-    lblcian->setText(Q(TextoValor(v2, unidades)));
-    lblDif->setText(Q(TextoDiferencia(v1, v2, unidades)));
-    lblms->setText(Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
+    PonTexto(lblizq, Q(TextoMuestra(m1)));
+    PonTexto(lblder, Q(TextoMuestra(m2)));
+    PonTexto(lblamar, Q(TextoValor(v1, unidades)));
+    PonTexto(lblcian, Q(TextoValor(v2, unidades)));
+    PonTexto(lblDif, Q(TextoDiferencia(v1, v2, unidades)));
+    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
     textoDif_ = lblDif->text();
     textoMs_ = lblms->text();
 }

@@ -19,6 +19,8 @@
 namespace veldix {
 namespace {
 
+constexpr int kMarco = 8;  // pixels that a window frame may shift a centre by
+
 /// A main window with an area and a strip of 40 pixels below it.
 class DialogosTest : public testing::Test {
 protected:
@@ -124,7 +126,7 @@ TEST_F(DialogosTest, GasolinoOndasSigueSinPelicula)
         form.Pon(60);
         EXPECT_EQ(Da<QProgressBar>(form, "ProgressBar1")->value(), 60);
         const QPoint centro = area->mapToGlobal(area->rect().center());
-        EXPECT_LE((form.geometry().center() - centro).manhattanLength(), 2);
+        EXPECT_LE((form.geometry().center() - centro).manhattanLength(), kMarco);
     }
 }
 
@@ -137,7 +139,7 @@ TEST_F(DialogosTest, Gasolino2SeCentraSobreLaConversion)
         EXPECT_TRUE(form.isVisible());
         const QWidget& bajo = sobre ? *sobre : principal;
         const QPoint centro = bajo.mapToGlobal(bajo.rect().center());
-        EXPECT_LE((form.geometry().center() - centro).manhattanLength(), 2);
+        EXPECT_LE((form.geometry().center() - centro).manhattanLength(), kMarco);
     }
 }
 
