@@ -513,7 +513,7 @@ def palabras(estados: list[int]) -> bytes:
 
 def cfg_1997(digitales: list[CanalDigital], tipo: str) -> bytes:
     lineas = [f"{SUBESTACION},{EQUIPO},1997"]
-    lineas += lineas_canales(map(campos_1997, ANALOGICOS), digitales)
+    lineas += lineas_canales(map(campos_1997, ANALOGICOS), digitales, ",,")  # phase and component, empty
     lineas += [*lineas_tasa(), *fechas("%d/%m/%Y,%H:%M:%S.%f"), tipo, "1"]
     return en_lineas(lineas)
 
@@ -521,15 +521,16 @@ def cfg_1997(digitales: list[CanalDigital], tipo: str) -> bytes:
 def cfg_1991(digitales: list[CanalDigital]) -> bytes:
     primarios = [canal.en_primario() for canal in ANALOGICOS]
     lineas = [f"{SUBESTACION},{EQUIPO}"]
-    lineas += lineas_canales(map(campos_1991, primarios), digitales)
+    lineas += lineas_canales(map(campos_1991, primarios), digitales, "")
     lineas += [*lineas_tasa(), *fechas("%m/%d/%y,%H:%M:%S.%f"), "ASCII"]
     return en_lineas(lineas)
 
 
-def lineas_canales(campos_analogicos, digitales: list[CanalDigital]) -> list[str]:
+def lineas_canales(campos_analogicos, digitales: list[CanalDigital], de_1997: str) -> list[str]:
+    """The counts and the channels; `de_1997` stands between name and normal state of a digital one."""
     na, nd = len(ANALOGICOS), len(digitales)
     analogicas = [f"{n},{','.join(campos)}" for n, campos in enumerate(campos_analogicos, 1)]
-    estados = [f"{n},{canal.nombre},{canal.normal}" for n, canal in enumerate(digitales, 1)]
+    estados = [f"{n},{canal.nombre}{de_1997},{canal.normal}" for n, canal in enumerate(digitales, 1)]
     return [f"{na + nd},{na}A,{nd}D", *analogicas, *estados]
 
 

@@ -189,6 +189,8 @@ TEST(LeerDat, FileShorterOrLongerThanDeclared)
         EXPECT_EQ(suma, faltan == 0 ? 38 : 0) << faltan;
     }
     RecordStore s = Prepara("1991", 1, 1, 2);
+    LeeBin(s, bin.substr(0, 11));
+    EXPECT_EQ(Fila(s.Muestras, 1), "0") << "less than a sample";
     for (const bool binario : {false, true}) {
         binario ? LeeBin(s, bin) : LeeAscii(s, "1,10,5,1\r\n2,20,6,1\r\n3,30,7,1\r\n");
         EXPECT_EQ(s.Muestras.UBound(1), 2);

@@ -122,6 +122,7 @@ TEST(LeerPlantilla, CountOrMissingSectionMisread)
         {"DIGITALES||2", "0 0 0 1" + antes + dAntes},
         {"DIGITALES|5||***", "0 0 5 0" + antes + dAntes},
         {"DIGITALES|5| 0 |-----", "0 0 5 0" + antes + dAntes},
+        {"DIGITALES|0|-1|***", "0 0 0 -1" + antes + " G  D "},
         {"DIGITALES|1|2|***|D|x|***|E|1|3%w$", "0 0 1 2" + antes + " G D,x;E,1; D 3,w;"},
         // More members than announced are read and dropped.
         {"DIGITALES|2|2|***|D|3|1%u$|2%v$|3%w$|***|E|002|4%y$|5%z$|--",
