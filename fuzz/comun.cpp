@@ -36,7 +36,8 @@ const std::string& CarpetaMemoria()
     struct Carpeta {
         Carpeta()
         {
-            ruta = std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "/tmp";
+            const char* pedida = std::getenv("TMPDIR");
+            ruta = pedida ? pedida : std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "/tmp";
             ruta += "/veldix.XXXXXX";
             if (mkdtemp(ruta.data()) == nullptr) throw std::runtime_error("no folder in memory");
         }

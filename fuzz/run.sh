@@ -11,6 +11,11 @@ targets=${*:-cfg dat_ascii dat_bin cnf ajustes textos perfil avi}
 cmake --preset fuzz >/dev/null
 cmake --build build/fuzz --target veldix_fuzz
 
+# A fuzzer ends without cleaning up; its folder goes with this one.
+TMPDIR=$(mktemp -d /dev/shm/veldix.XXXXXX)
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+
 export ASAN_OPTIONS="quarantine_size_mb=32:${ASAN_OPTIONS:-}"
 
 run_one() {

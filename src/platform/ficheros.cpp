@@ -22,6 +22,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t kTrozo = 256 * 1024;
+
 long long g_limiteDisco = -1;
 
 int ErrorDeApertura(const std::string& ruta, int codigo)
@@ -190,14 +192,14 @@ std::string LeeOctetos(const std::string& ruta)
 {
     LectorTrozos lector(ruta);
     std::string todo;
-    constexpr std::size_t kTrozo = 256 * 1024;
-    for (std::size_t n = kTrozo; n == kTrozo;) {
+    // One octet more than the file has, so that a regular file ends within its first piece.
+    for (std::size_t trozo = lector.Tamano() + 1;; trozo = kTrozo) {
         const std::size_t antes = todo.size();
-        todo.resize(antes + kTrozo);
-        n = lector.Lee({todo.data() + antes, kTrozo});
+        todo.resize(antes + trozo);
+        const std::size_t n = lector.Lee({todo.data() + antes, trozo});
         todo.resize(antes + n);
+        if (n < trozo) return todo;
     }
-    return todo;
 }
 
 LectorTrozos::LectorTrozos(const std::string& ruta) : fd_(AbreParaLeer(ruta)) {}
@@ -218,6 +220,12 @@ std::size_t LectorTrozos::Lee(std::span<char> donde)
         leidos += static_cast<std::size_t>(n);
     }
     return leidos;
+}
+
+std::size_t LectorTrozos::Tamano() const
+{
+    struct stat s {};
+    return fstat(fd_, &s) == 0 && S_ISREG(s.st_mode) ? static_cast<std::size_t>(s.st_size) : kTrozo;
 }
 
 void ReemplazaFichero(const std::string& ruta, std::string_view octetos)

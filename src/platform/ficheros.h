@@ -35,6 +35,8 @@ public:
 
     /// Fills `donde` as far as the file goes; the count of octets read, less than asked only at its end.
     std::size_t Lee(std::span<char> donde);
+    /// Octets of a regular file as it is now, those of a chunk for anything else.
+    std::size_t Tamano() const;
 
 private:
     int fd_ = -1;

@@ -21,10 +21,10 @@ float OCero(double v)
     return std::isfinite(f) ? f : 0.0F;
 }
 
-double Mayor(const std::vector<double>& v)
+double Mayor(const std::vector<float>& v)
 {
-    double m = 1.0;
-    for (const double x : v)
+    float m = 1.0F;
+    for (const float x : v)
         m = std::max(m, std::fabs(x));
     return m;
 }
@@ -43,10 +43,11 @@ EscalaCanales::EscalaCanales(const RecordStore& s, double mayor)
     if (es1997_ && n_ > 0) {
         directa_ = s.Relacion(1).Primario == 1.0F && s.Relacion(1).Secundario == 1.0F;
         CalculaLados(s);
-        for (const Lados* l : {&primera_, &resto_})
-            tope *= std::max(Mayor(l->prim), Mayor(l->sec));
+        tope *= std::max({Mayor(primera_.prim), Mayor(primera_.sec), Mayor(resto_.prim), Mayor(resto_.sec)});
     }
-    segura_ = tope < kMayorSingle;
+    // The margin covers the two roundings to float32 on the way.
+    constexpr double kMargen = 1.000001;
+    segura_ = tope * kMargen < kMayorSingle;
 }
 
 /// The ratios of one sample in reading order. A zero divisor, or a quotient beyond float32, leaves the ratio
@@ -59,8 +60,8 @@ EscalaCanales::Lados EscalaCanales::Pasada(const RecordStore& s, float& prim, fl
         Intenta([&] { prim = Single(Divide(relacion.Primario, relacion.Secundario)); });
         Intenta([&] { sec = Single(Divide(relacion.Secundario, relacion.Primario)); });
         const bool esPrimario = Mayusculas(Recorta(relacion.Lado)) == "P";
-        r.prim.push_back(esPrimario ? 1.0 : prim);
-        r.sec.push_back(esPrimario ? sec : 1.0);
+        r.prim.push_back(esPrimario ? 1.0F : prim);
+        r.sec.push_back(esPrimario ? sec : 1.0F);
     }
     return r;
 }
@@ -92,23 +93,23 @@ void EscalaCanales::Aplica(const X* __restrict x, const bool* valida, bool prime
         return;
     }
     const Lados& lados = primera ? primera_ : resto_;
-    const double* __restrict fp = lados.prim.data();
-    const double* __restrict fs = lados.sec.data();
+    const float* __restrict fp = lados.prim.data();
+    const float* __restrict fs = lados.sec.data();
     if (segura_ && !valida) {
         for (int c = 0; c < n_; ++c) {
-            const double v = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
-            prim[c] = static_cast<float>(v * fp[c]);
-            sec[c] = static_cast<float>(v * fs[c]);
+            const auto v = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
+            prim[c] = v * fp[c];
+            sec[c] = v * fs[c];
         }
         if (directa_)
             for (int c = 0; c < n_; ++c)
                 muestras[c] = static_cast<float>(static_cast<double>(x[c]) * a[c] + b[c]);
     } else {
         for (int c = 0; c < n_; ++c) {
-            const double v = valida && !valida[c] ? 0.0 : OCero(static_cast<double>(x[c]) * a[c] + b[c]);
-            prim[c] = OCero(v * fp[c]);
-            sec[c] = OCero(v * fs[c]);
-            if (directa_) muestras[c] = static_cast<float>(v);
+            const float v = valida && !valida[c] ? 0.0F : OCero(static_cast<double>(x[c]) * a[c] + b[c]);
+            prim[c] = OCero(static_cast<double>(v) * fp[c]);
+            sec[c] = OCero(static_cast<double>(v) * fs[c]);
+            if (directa_) muestras[c] = v;
         }
     }
     for (const int c : sinLado_)

@@ -24,9 +24,10 @@ public:
     void Aplica(const X* x, const bool* valida, bool primera, float* muestras, float* prim, float* sec) const;
 
 private:
-    /// Factors on v for the primary and the secondary side.
+    /// Factors on v for the primary and the secondary side. The product of two float32 is exact in double, so
+    /// that a float32 product is the same value rounded once.
     struct Lados {
-        std::vector<double> prim, sec;
+        std::vector<float> prim, sec;
     };
     void CalculaLados(const RecordStore& s);
     Lados Pasada(const RecordStore& s, float& prim, float& sec) const;

@@ -60,7 +60,9 @@ public:
 
     bool Avanza()
     {
-        return Intenta([&] { linea = lineas_.Lee(); });
+        if (lineas_.Fin()) return false;
+        linea = lineas_.Lee();
+        return true;
     }
     std::string linea;
 

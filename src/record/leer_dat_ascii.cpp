@@ -36,11 +36,11 @@ public:
         return campo;
     }
 
-    /// A field of one character followed by a comma, which is what nearly all states are; '\0' otherwise,
-    /// with nothing passed.
-    char Caracter()
+    /// A field of one digit followed by a comma, which is what nearly all states are; '\0' otherwise, with
+    /// nothing passed.
+    char Cifra()
     {
-        if (p_ == nullptr || fin_ - p_ < 2 || p_[1] != ',') return '\0';
+        if (p_ == nullptr || fin_ - p_ < 2 || p_[1] != ',' || *p_ < '0' || *p_ > '9') return '\0';
         const char c = *p_;
         p_ += 2;
         return c;
@@ -104,9 +104,9 @@ void LeeDigitales(CamposMuestra& campos, int n, std::int16_t* estados)
 {
     if (estados == nullptr) return;
     for (int k = 0; k < n; ++k) {
-        if (const char c = campos.Caracter(); c >= '0' && c <= '9') {
+        if (const char c = campos.Cifra(); c != '\0') {
             estados[k] = static_cast<std::int16_t>(c - '0');
-        } else if (c == '\0') {
+        } else {
             const auto campo = campos.Siguiente(k + 1 == n);
             if (!campo) return;
             Intenta([&] { estados[k] = Entero16Local(*campo); });

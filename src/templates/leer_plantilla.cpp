@@ -67,7 +67,7 @@ private:
     /// The next line into `destino`, which keeps what it had behind the end of the file.
     void Avanza(std::string& destino)
     {
-        Intenta([&] { destino = lineas_.Lee(); });
+        if (!lineas_.Fin()) destino = lineas_.Lee();
     }
 
     /// The count on the current line; a text that is no number leaves it.
