@@ -9,7 +9,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 raiz=$(pwd)
 . runtime/paquetes.sh
 
-[ "$(command -v apt-get)" ] && instala_paquetes "${PAQUETES_CONSTRUIR[@]}" "${PAQUETES_EJECUTAR[@]}"
+[ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || PAQUETES_EJECUTAR+=(qt6-wayland)
+if command -v apt-get > /dev/null; then
+  instala_paquetes "${PAQUETES_CONSTRUIR[@]}" "${PAQUETES_EJECUTAR[@]}"
+fi
 if [ ! -f build/release/build.ninja ]; then
   cmake --preset release -DVELDIX_TESTS=OFF -DVELDIX_BENCH=OFF > /dev/null
 fi
@@ -17,16 +20,20 @@ cmake --build --preset release --target veldix veldix-cli
 cmake --install build/release --prefix "$raiz/build/stage" > /dev/null
 [ "${1:-}" = --build ] && { echo "Staged in build/stage"; exit 0; }
 
-if [ $# -gt 0 ]; then
-  fichero() { case "$1" in /*) echo "$1" ;; *) echo "$aqui/$1" ;; esac; }
-  registro=$(fichero "$1")
-  plantilla=${2:+$(fichero "$2")}
-else
-  registro=$raiz/build/stage/Registros/falta_1997.dat
-  plantilla=$raiz/build/stage/Plantillas/falta.cnf
-fi
+programa=$raiz/build/stage/VELDIX/EXE
+# The program cuts its command line at the first blank: a path with one in a folder above is given from the
+# program's own folder.
+fichero() {
+  local ruta
+  case "$1" in /*) ruta=$1 ;; *) ruta=$aqui/$1 ;; esac
+  case "$ruta" in *' '*) realpath -s --relative-to="$programa" "$ruta" ;; *) echo "$ruta" ;; esac
+}
+registro=$(fichero "${1:-$raiz/build/stage/Registros/falta_1997.dat}")
+plantilla=
+[ $# -ne 0 ] || plantilla=$(fichero "$raiz/build/stage/Plantillas/falta.cnf")
+[ $# -lt 2 ] || plantilla=$(fichero "$2")
 
-cd build/stage/VELDIX/EXE
+cd "$programa"
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   echo "No display: the record is read by veldix-cli instead."
   ./veldix-cli info "$registro" ${plantilla:+"$plantilla"}

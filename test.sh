@@ -7,7 +7,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . runtime/paquetes.sh
 preset=${1:-release}
 
-[ "$(command -v apt-get)" ] && instala_paquetes "${PAQUETES_CONSTRUIR[@]}" "${PAQUETES_EJECUTAR[@]}" "${PAQUETES_PROBAR[@]}"
+if command -v apt-get > /dev/null; then
+  instala_paquetes "${PAQUETES_CONSTRUIR[@]}" "${PAQUETES_EJECUTAR[@]}" "${PAQUETES_PROBAR[@]}"
+fi
 if ! locale -a | grep -qi '^es_ES.utf-\?8$'; then
   como=""
   [ "$(id -u)" -eq 0 ] || como=sudo

@@ -21,6 +21,6 @@ install(CODE [[
   endif()
   if(NOT EXISTS "${ini}/tools.ini")
     file(WRITE "${ini}/tools.ini"
-      "1\r\n${raiz}/Registros\r\n${raiz}/Plantillas\r\n${raiz}/VELDIX/EXE\r\n0\r\n")
+      "1\r\n${CMAKE_INSTALL_PREFIX}/Registros\r\n${CMAKE_INSTALL_PREFIX}/Plantillas\r\n${CMAKE_INSTALL_PREFIX}/VELDIX/EXE\r\n0\r\n")
   endif()
 ]])

@@ -15,5 +15,5 @@ int main(int argc, char** argv)
     veldix::InstalaEscena();
     veldix::MDIForm1 principal(programa, linea);
     principal.MDIForm_Load();
-    return QApplication::exec();
+    return principal.Descargado() ? 0 : QApplication::exec();
 }

@@ -88,8 +88,7 @@ bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
         AvisaError(ErrorEjecucion(error::kFicheroNoEncontrado));
         return false;
     }
-    const std::string_view extension = Derecha(ruta, 3);
-    if (extension != "CNF" && extension != "cnf") {
+    if (!EsExtensionPlantilla(ruta)) {
         Avisa(Rotulo(147, consola.espanol ? "No es una plantilla:" : "Not a template:") + " " + ruta);
         return false;
     }
@@ -98,7 +97,8 @@ bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
     store.RegistroAbierto = true;
     store.PlantillaAplicada = true;
     LeerPlantilla(store);
-    if (store.VersionPlan != "ver 1.0" && !store.PlantillaNoValida) AplicaPlantilla(store);
+    if (store.VersionPlan == "ver 1.0") return false;
+    if (!store.PlantillaNoValida) AplicaPlantilla(store);
     return true;
 }
 

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <ostream>
 
 #include "platform/avisos.h"
 #include "platform/ficheros.h"
 #include "platform/perfil.h"
+#include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "shell/ajustes.h"
@@ -60,7 +62,7 @@ bool EspanolDelSistema()
 
 /// The value of an option that takes one, "--name value" or "--name=value".
 bool TomaOpcion(const std::vector<std::string>& args, std::size_t& i, std::string_view nombre,
-                std::string& valor)
+                std::optional<std::string>& valor)
 {
     const std::string_view a = args[i];
     if (a == nombre && i + 1 < args.size()) {
@@ -76,7 +78,7 @@ bool TomaOpcion(const std::vector<std::string>& args, std::size_t& i, std::strin
 
 struct Linea {
     std::vector<std::string> sueltos;
-    std::string idioma, referencia;
+    std::optional<std::string> idioma, referencia;
     bool ayuda = false, mal = false;
 };
 
@@ -95,8 +97,10 @@ Linea ParteArgumentos(const std::vector<std::string>& args)
                  !TomaOpcion(args, i, "--reference", l.referencia))
             l.mal = true;
     }
-    l.mal = l.mal || (!l.idioma.empty() && l.idioma != "es" && l.idioma != "en") ||
-            (!l.referencia.empty() && l.referencia != "primary" && l.referencia != "secondary");
+    const auto fuera = [](const std::optional<std::string>& v, const char* uno, const char* otro) {
+        return v && *v != uno && *v != otro;
+    };
+    l.mal = l.mal || fuera(l.idioma, "es", "en") || fuera(l.referencia, "primary", "secondary");
     return l;
 }
 
@@ -119,9 +123,7 @@ bool AbreRegistroDe(const std::string& dat, const Consola& consola)
         const bool faltaDat = store.FicheroDat.empty();
         Avisa(Rotulo(faltaDat ? 174 : 173,
                      consola.espanol ? "No se encuentra el fichero" : "The file cannot be found") +
-              " (" +
-              (faltaDat ? dat : dat.substr(0, dat.size() - std::min<std::size_t>(3, dat.size())) + "cfg") +
-              ")");
+              " (" + (faltaDat ? dat : std::string(SinFinal(dat, 3)) + "cfg") + ")");
         return false;
     }
     ReiniciaRegistro(store);
@@ -131,7 +133,7 @@ bool AbreRegistroDe(const std::string& dat, const Consola& consola)
 Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& rutaPrograma, Consola consola)
 {
     const Linea linea = ParteArgumentos(argumentos);
-    consola.espanol = linea.idioma.empty() ? EspanolDelSistema() : linea.idioma == "es";
+    consola.espanol = linea.idioma ? *linea.idioma == "es" : EspanolDelSistema();
     const Orden* orden = linea.sueltos.empty() ? nullptr : BuscaOrden(linea.sueltos[0]);
     if (linea.ayuda && !linea.mal) {
         EscribeUso(consola.resultados, consola.espanol, orden);
@@ -139,19 +141,21 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
     }
     const std::size_t palabras = linea.sueltos.empty() ? 0 : linea.sueltos.size() - 1;
     if (!orden || linea.mal || palabras < orden->minimo || palabras > orden->maximo ||
-        (!linea.referencia.empty() && !orden->referencia)) {
+        (linea.referencia && !orden->referencia)) {
         EscribeUso(consola.mensajes, consola.espanol, orden);
         return Salida::MalUso;
     }
     CargaEntorno(rutaPrograma, consola.espanol);
     PonCajas([&consola](const Caja& caja) {
-        const char* vacio = consola.espanol ? "El registro no se puede leer." : "The record cannot be read.";
+        const char* vacio = consola.espanol ? "El registro o su plantilla no se puede leer."
+                                            : "The record or its template cannot be read.";
         consola.mensajes << "veldix-cli: " << (caja.texto.empty() ? vacio : caja.texto) << std::endl;
         return true;
     });
     Salida salida = Salida::Fallida;
     try {
-        salida = orden->corre({{linea.sueltos.begin() + 1, linea.sueltos.end()}, linea.referencia}, consola);
+        salida = orden->corre(
+            {{linea.sueltos.begin() + 1, linea.sueltos.end()}, linea.referencia.value_or("")}, consola);
     } catch (const std::exception&) {
         AvisaError(ErrorEnVuelo());
     }

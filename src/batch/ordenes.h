@@ -11,7 +11,7 @@ namespace veldix {
 /// How a command ended, as the exit status of the program.
 enum class Salida { Hecha = 0, Fallida = 1, MalUso = 2 };
 
-/// Where a command writes: results and messages, and the language of the latter.
+/// Where a command writes: results and messages, and the language of the latter, which Ejecuta sets.
 struct Consola {
     std::ostream& resultados;
     std::ostream& mensajes;

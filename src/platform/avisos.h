@@ -31,8 +31,8 @@ bool Pregunta(const std::string& texto, Icono icono = Icono::Pregunta);
 /// The common error box: critical, "Error ", number, ": ", description.
 void AvisaError(const ErrorEjecucion& e);
 
-/// Sets the pointer of every window back to the default; the windows fill it at start. Readers that run
-/// without windows call it before a message.
+/// Sets the pointers of all windows and forms back to the default (a plot keeps that of an armed zoom); the
+/// windows fill it at start. Readers call it before a message.
 void PonPunteroNormal(std::function<void()> pon);
 void PunteroNormal();
 

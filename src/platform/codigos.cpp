@@ -139,9 +139,11 @@ std::string APagina(std::string_view texto, bool* entero)
     return r;
 }
 
-std::string DesdeUtf8OPagina(std::string_view octetos)
+std::string DesdeUtf8OPagina(std::string octetos)
 {
-    return EsUtf8(octetos) ? std::string(octetos) : DesdePagina(octetos);
+    if (!EsUtf8(octetos)) return DesdePagina(octetos);
+    if (octetos.starts_with("\xEF\xBB\xBF")) octetos.erase(0, 3);
+    return octetos;
 }
 
 }  // namespace veldix

@@ -24,7 +24,8 @@ std::string DesdePagina(std::string_view octetos);
 /// none was lacking.
 std::string APagina(std::string_view texto, bool* entero = nullptr);
 
-/// Text of a record or of a settings file: UTF-8 as it stands when it is valid, else of the code page.
-std::string DesdeUtf8OPagina(std::string_view octetos);
+/// Text of a record or of a settings file: UTF-8 when it is valid, less a byte order mark, else of the code
+/// page.
+std::string DesdeUtf8OPagina(std::string octetos);
 
 }  // namespace veldix

@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 #include "platform/errores.h"
 #include "platform/texto.h"
@@ -23,6 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kTrozo = 256 * 1024;
+constexpr std::size_t kMayorTexto = 64 * 1024 * 1024;
 
 long long g_limiteDisco = -1;
 
@@ -120,6 +122,22 @@ mode_t PermisosDe(const std::string& ruta)
     return stat(ruta.c_str(), &s) == 0 ? (s.st_mode & 07777U) : 0644U;
 }
 
+/// Less a lone 0x1A at the end.
+std::string_view SinFinDeFichero(std::string_view texto)
+{
+    const std::size_t n = texto.size();
+    const bool sola = n == 1 || (n > 1 && (texto[n - 2] == '\n' || texto[n - 2] == '\r'));
+    return sola && texto.back() == '\x1A' ? texto.substr(0, n - 1) : texto;
+}
+
+/// The first line of a text that is not empty, and its length with its end.
+std::string_view PrimeraLinea(std::string_view texto, std::size_t& largo)
+{
+    const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
+    largo = std::min(texto.size(), fin + (texto.substr(fin).starts_with("\r\n") ? 2U : 1U));
+    return texto.substr(0, fin);
+}
+
 /// The program's path as it was typed, absolute.
 std::string RutaArrancada(const char* argv0)
 {
@@ -133,7 +151,9 @@ std::string RutaArrancada(const char* argv0)
     std::string_view caminos = std::getenv("PATH") ? std::getenv("PATH") : "";
     while (!nombre.empty() && !caminos.empty()) {
         const std::size_t fin = std::min(caminos.find(':'), caminos.size());
-        const std::string intento = UneRuta(caminos.substr(0, fin), nombre);
+        const std::string_view camino = caminos.substr(0, fin);
+        const std::string intento =
+            UneRuta(camino.starts_with('/') ? std::string(camino) : UneRuta(aqui, camino), nombre);
         if (access(intento.c_str(), X_OK) == 0 && ExisteFichero(intento)) return intento;
         caminos.remove_prefix(std::min(fin + 1, caminos.size()));
     }
@@ -192,6 +212,7 @@ std::string LeeOctetos(const std::string& ruta)
 {
     LectorTrozos lector(ruta);
     std::string todo;
+    if (lector.Tamano() > kMayorTexto) Lanza(error::kSinMemoria);
     // One octet more than the file has, so that a regular file ends within its first piece.
     for (std::size_t trozo = lector.Tamano() + 1;; trozo = kTrozo) {
         const std::size_t antes = todo.size();
@@ -199,6 +220,7 @@ std::string LeeOctetos(const std::string& ruta)
         const std::size_t n = lector.Lee({todo.data() + antes, trozo});
         todo.resize(antes + n);
         if (n < trozo) return todo;
+        if (todo.size() > kMayorTexto) Lanza(error::kSinMemoria);
     }
 }
 
@@ -266,23 +288,26 @@ void LimitaDisco(long long octetos)
 
 std::vector<std::string> Lineas(std::string_view texto)
 {
-    if (texto.ends_with('\x1A') &&
-        (texto.size() == 1 || texto[texto.size() - 2] == '\n' || texto[texto.size() - 2] == '\r'))
-        texto.remove_suffix(1);
+    texto = SinFinDeFichero(texto);
     std::vector<std::string> r;
-    while (!texto.empty()) {
-        const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
-        r.emplace_back(texto.substr(0, fin));
-        const bool dos = texto.substr(fin).starts_with("\r\n");
-        texto.remove_prefix(std::min(texto.size(), fin + (dos ? 2U : 1U)));
-    }
+    for (std::size_t largo = 0; !texto.empty(); texto.remove_prefix(largo))
+        r.emplace_back(PrimeraLinea(texto, largo));
     return r;
 }
 
-const std::string& LectorLineas::Lee()
+LectorLineas::LectorLineas(std::string texto, std::string (*decodifica)(std::string_view))
+    : texto_(std::move(texto)), decodifica_(decodifica)
+{
+    texto_.resize(SinFinDeFichero(texto_).size());
+}
+
+std::string LectorLineas::Lee()
 {
     if (Fin()) Lanza(error::kFinDeFichero);
-    return lineas_[siguiente_++];
+    std::size_t largo = 0;
+    const std::string_view linea = PrimeraLinea(std::string_view(texto_).substr(pos_), largo);
+    pos_ += largo;
+    return decodifica_ ? decodifica_(linea) : std::string(linea);
 }
 
 std::string Une(const std::vector<std::string>& lineas)
@@ -303,9 +328,16 @@ std::string CarpetaPrograma(const char* argv0)
         if (ec) break;
         ruta = destino.is_absolute() ? destino.string() : UneRuta(CarpetaDe(ruta), destino.string());
     }
-    std::string carpeta = fs::path(CarpetaDe(ruta)).lexically_normal().string();
-    if (carpeta.size() > 1 && carpeta.back() == '/') carpeta.pop_back();
-    return carpeta;
+    std::string carpeta;
+    for (const fs::path& parte : fs::path(CarpetaDe(ruta))) {
+        std::error_code ec;
+        if (parte == "..")
+            // Behind a link, the folder above is that of its target.
+            carpeta = CarpetaDe(fs::is_symlink(carpeta, ec) ? fs::canonical(carpeta, ec).string() : carpeta);
+        else if (parte != "." && parte != "/" && !parte.empty())
+            carpeta = UneRuta(carpeta.empty() ? "/" : carpeta, parte.string());
+    }
+    return carpeta.empty() ? "/" : carpeta;
 }
 
 }  // namespace veldix

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,8 +20,8 @@ std::string UneRuta(std::string_view carpeta, std::string_view nombre);
 std::string CarpetaDe(std::string_view ruta);
 std::string NombreDe(std::string_view ruta);
 
-/// The whole file. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where its
-/// folder is, 70 where it may not be read, 57 where reading fails.
+/// A text file as a whole. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where
+/// its folder is, 70 where it may not be read, 57 where reading fails, 7 over 64 MiB.
 std::string LeeOctetos(const std::string& ruta);
 
 /// A file read in chunks, so that a long one is never in memory whole. Errors as LeeOctetos.
@@ -43,7 +42,7 @@ private:
 };
 
 /// Replaces a file the user owns as a whole, through a temporary file of its folder and a rename, so that a
-/// full disk or a kill leaves the old one. Raises 61, 70, 75, 76.
+/// full disk or a kill leaves the old one. Raises 52, 57, 61, 70, 75, 76.
 void ReemplazaFichero(const std::string& ruta, std::string_view octetos);
 
 /// Writes a file in place, replacing what is there; a failure leaves it half written. Raises as above.
@@ -55,17 +54,19 @@ void LimitaDisco(long long octetos);
 /// The lines of a text: CR LF, LF and CR each end one; a lone 0x1A at the end is no line.
 std::vector<std::string> Lineas(std::string_view texto);
 
-/// Lines read one by one.
+/// The lines of a text one by one, each cut when it is asked for.
 class LectorLineas {
 public:
-    explicit LectorLineas(std::vector<std::string> lineas) : lineas_(std::move(lineas)) {}
+    /// `decodifica`, where given, makes UTF-8 of each line.
+    explicit LectorLineas(std::string texto, std::string (*decodifica)(std::string_view) = nullptr);
     /// The next line. Raises 62 behind the last one.
-    const std::string& Lee();
-    bool Fin() const { return siguiente_ == lineas_.size(); }
+    std::string Lee();
+    bool Fin() const { return pos_ == texto_.size(); }
 
 private:
-    std::vector<std::string> lineas_;
-    std::size_t siguiente_ = 0;
+    std::string texto_;
+    std::string (*decodifica_)(std::string_view);
+    std::size_t pos_ = 0;
 };
 
 /// Lines joined with CR LF behind each.

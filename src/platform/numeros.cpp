@@ -8,6 +8,7 @@
 #include <charconv>
 #include <clocale>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 #include "platform/enteros.h"
@@ -39,20 +40,15 @@ Separadores& Guardados()
     return s;
 }
 
-/// from_chars over a text of the form [-]digits[.digits][e[+-]digits], infinite where it overflows.
-double DesdePlano(const char* de, const char* hasta)
+/// The number of a text of the form [-]digits[.digits][e[+-]digits], infinite where it overflows.
+double DesdePlano(const std::string& plano)
 {
     double v = 0.0;
-    const auto r = std::from_chars(de, hasta, v);
+    const auto r = std::from_chars(plano.data(), plano.data() + plano.size(), v);
     if (r.ec != std::errc::result_out_of_range) return v;
-    // The library tells neither overflow from underflow nor the sign: the exponent does.
-    const bool negativo = *de == '-';
-    const char* e = std::find(de, hasta, 'e');
-    const bool pequeno = e != hasta && e + 1 != hasta && e[1] == '-';
-    const bool enteroLargo =
-        std::find_if(de, e, [](char c) { return c >= '1' && c <= '9'; }) < std::find(de, e, '.');
-    v = pequeno || (e == hasta && !enteroLargo) ? 0.0 : std::numeric_limits<double>::infinity();
-    return negativo ? -v : v;
+    // from_chars does not tell overflow from underflow; strtod does.
+    static const locale_t kPunto = newlocale(LC_ALL_MASK, "C", nullptr);
+    return strtod_l(plano.c_str(), nullptr, kPunto);
 }
 
 /// Digits of an exponent behind position `i` of an e or d: where they end, or `i` where there are none.
@@ -77,8 +73,8 @@ void AnadeExponente(std::string& plano, std::string_view t, std::size_t i, std::
     plano.append(t.substr(i, fin - i));
 }
 
-/// The text of the locale's number as plain digits. Raises 13.
-std::string PlanoLocal(std::string_view texto, const Separadores& s)
+/// The text of the locale's number as plain digits, nothing where it is none.
+std::optional<std::string> PlanoLocal(std::string_view texto, const Separadores& s)
 {
     const std::string_view t = Recorta(texto);
     std::string plano;
@@ -102,9 +98,9 @@ std::string PlanoLocal(std::string_view texto, const Separadores& s)
             break;
         }
     }
-    if (!cifras) Lanza(error::kTipos);
+    if (!cifras) return std::nullopt;
     const std::size_t fin = FinExponente(t, i);
-    if (fin != t.size()) Lanza(error::kTipos);
+    if (fin != t.size()) return std::nullopt;
     AnadeExponente(plano, t, i, fin);
     return plano;
 }
@@ -129,17 +125,14 @@ std::optional<float> Compone(std::uint64_t mantisa, int decimales, bool negativo
 /// The field by the general road.
 std::optional<float> CampoGeneral(std::string_view campo, const Separadores& s)
 {
-    try {
-        const std::string plano = PlanoLocal(campo, s);
-        float v = 0.0F;
-        const auto r = std::from_chars(plano.data(), plano.data() + plano.size(), v);
-        if (r.ec == std::errc()) return v;
-        const double d = DesdePlano(plano.data(), plano.data() + plano.size());
-        if (std::fabs(d) < 1.0) return std::signbit(d) ? -0.0F : 0.0F;
-        return std::nullopt;
-    } catch (const ErrorEjecucion&) {
-        return std::nullopt;
-    }
+    const auto plano = PlanoLocal(campo, s);
+    if (!plano) return std::nullopt;
+    float v = 0.0F;
+    const auto r = std::from_chars(plano->data(), plano->data() + plano->size(), v);
+    if (r.ec == std::errc()) return v;
+    const double d = DesdePlano(*plano);
+    if (std::fabs(d) < 1.0) return std::signbit(d) ? -0.0F : 0.0F;
+    return std::nullopt;
 }
 
 /// All digits of a finite non-negative double, with `decimales` places, exact and unrounded further.
@@ -215,7 +208,7 @@ double Val(std::string_view texto)
     }
     if (!cifras) return 0.0;
     AnadeExponente(plano, texto, i, FinExponente(texto, i));
-    return DesdePlano(plano.data(), plano.data() + plano.size());
+    return DesdePlano(plano);
 }
 
 float TolVal(std::string_view texto)
@@ -228,10 +221,19 @@ float TolVal(std::string_view texto)
 
 double NumeroLocal(std::string_view texto)
 {
-    const std::string plano = PlanoLocal(texto, SeparadoresSistema());
-    const double v = DesdePlano(plano.data(), plano.data() + plano.size());
+    const auto plano = PlanoLocal(texto, SeparadoresSistema());
+    if (!plano) Lanza(error::kTipos);
+    const double v = DesdePlano(*plano);
     if (!std::isfinite(v)) Lanza(error::kDesbordamiento);
     return v;
+}
+
+std::optional<std::int16_t> CampoEntero16(std::string_view campo, const Separadores& s)
+{
+    const auto plano = PlanoLocal(campo, s);
+    const double v = plano ? std::nearbyint(DesdePlano(*plano)) : std::numeric_limits<double>::infinity();
+    if (v < -32768.0 || v > 32767.0) return std::nullopt;
+    return static_cast<std::int16_t>(v);
 }
 
 std::int16_t Entero16Local(std::string_view texto)
@@ -317,8 +319,11 @@ std::string TextoSingle(float valor)
 
 std::string TextoExacto(float valor)
 {
+    const float m = std::fabs(valor);
+    const bool plano = m == 0.0F || (m >= 1e-5F && m < 1e9F);
     std::array<char, 64> b{};
-    const auto r = std::to_chars(b.data(), b.data() + b.size(), valor);
+    const auto r = std::to_chars(b.data(), b.data() + b.size(), valor,
+                                 plano ? std::chars_format::fixed : std::chars_format::scientific);
     return {b.data(), r.ptr};
 }
 

@@ -37,6 +37,9 @@ std::int16_t Entero16Local(std::string_view texto);
 /// where NumeroLocal would raise or the value does not fit. One rounding, as strtof makes it.
 std::optional<float> CampoSingle(std::string_view campo, const Separadores& s);
 
+/// The same to 16 bits, halves to even: nullopt where Entero16Local would raise.
+std::optional<std::int16_t> CampoEntero16(std::string_view campo, const Separadores& s);
+
 /// The print form of a number: a blank or a minus for the sign, the digits, a blank behind.
 std::string FormaImpresa(std::int32_t valor);
 
@@ -52,7 +55,8 @@ std::string Mascara(double valor, std::string_view mascara);
 std::string TextoDouble(double valor);
 std::string TextoSingle(float valor);
 
-/// The fewest digits with a point that read back to the same float32.
+/// The fewest digits with a point that read back to the same float32; with an exponent below 1e-5 and from
+/// 1e9 on.
 std::string TextoExacto(float valor);
 
 }  // namespace veldix

@@ -8,7 +8,7 @@ namespace veldix {
 
 inline constexpr double kTwipsPorPixel = 15.0;
 
-// Logical pixel nearest to a distance in twips, halves upwards; saturates to the range of int, 0 for NaN.
+/// Logical pixel nearest to a distance in twips, halves upwards; saturates to the range of int, 0 for NaN.
 inline int APixeles(double twips)
 {
     if (std::isnan(twips)) return 0;

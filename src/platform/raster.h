@@ -5,7 +5,7 @@
 
 namespace veldix {
 
-// A view of 32-bit pixels owned by someone else; `paso` is the distance between rows, in pixels.
+/// A view of 32-bit pixels owned by someone else; `paso` is the distance between rows, in pixels.
 struct Imagen32 {
     std::uint32_t* pixeles = nullptr;
     int ancho = 0;
@@ -17,15 +17,15 @@ inline constexpr int kGruesoMaximo = 64;
 
 void Rellena(const Imagen32& imagen, std::uint32_t color);
 
-// Draws from (x1, y1) to (x2, y2), both ends included, in device pixels; pixel n holds [n - 0.5, n + 0.5).
-// The pen is a square of `grueso` pixels (held to 1..kGruesoMaximo) centred on the line, the odd pixel to the
-// right and below. Any coordinates are allowed; a line with an infinite or NaN end draws nothing.
+/// Draws from (x1, y1) to (x2, y2), both ends included, in device pixels; pixel n holds [n - 0.5, n + 0.5).
+/// The pen is a square of `grueso` pixels (held to 1..kGruesoMaximo) centred on the line, the odd pixel to
+/// the right and below. Any coordinates are allowed; a line with an infinite or NaN end draws nothing.
 void TrazaLinea(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color,
                 int grueso = 1);
 
-// Draws the segments between consecutive points (xs[i], ys[i]) * escala, in device pixels after scaling.
-// The pixels are exactly those of TrazaLinea called for each segment; x need not be monotonic.
-// Points beyond the shorter of the two arrays are ignored, and a lone point draws nothing.
+/// Draws the segments between consecutive points (xs[i], ys[i]) * escala, in device pixels after scaling.
+/// The pixels are exactly those of TrazaLinea called for each segment; x need not be monotonic.
+/// Points beyond the shorter of the two arrays are ignored, and a lone point draws nothing.
 void TrazaPoligonal(const Imagen32& imagen, std::span<const double> xs, std::span<const double> ys,
                     double escala, std::uint32_t color, int grueso = 1);
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "platform/errores.h"
@@ -60,6 +61,15 @@ public:
     {
     }
 
+    Tabla1(const Tabla1&) = default;
+    Tabla1(Tabla1&& otra) noexcept { Intercambia(otra); }
+    Tabla1& operator=(Tabla1 otra) noexcept
+    {
+        Intercambia(otra);
+        return *this;
+    }
+    ~Tabla1() = default;
+
     bool Vacia() const { return !vale_; }
     int LBound() const { return vale_ ? inferior_ : (Lanza(error::kSubindice), 0); }
     int UBound() const { return vale_ ? superior_ : (Lanza(error::kSubindice), 0); }
@@ -78,6 +88,13 @@ public:
     const T* end() const { return datos() + Cuantos(); }
 
 private:
+    void Intercambia(Tabla1& otra) noexcept
+    {
+        std::swap(elementos_, otra.elementos_);
+        std::swap(inferior_, otra.inferior_);
+        std::swap(superior_, otra.superior_);
+        std::swap(vale_, otra.vale_);
+    }
     static std::size_t Cuenta(int inferior, int superior)
     {
         if (superior < inferior) Lanza(error::kSubindice);
@@ -112,6 +129,15 @@ public:
     {
     }
 
+    Tabla2(const Tabla2&) = default;
+    Tabla2(Tabla2&& otra) noexcept { Intercambia(otra); }
+    Tabla2& operator=(Tabla2 otra) noexcept
+    {
+        Intercambia(otra);
+        return *this;
+    }
+    ~Tabla2() = default;
+
     bool Vacia() const { return !vale_; }
     /// Bounds of dimension 1 (rows) or 2 (columns).
     int LBound(int dimension) const { return Limite(dimension, fila1_, col1_); }
@@ -127,6 +153,15 @@ public:
     const T* fila(int f) const { return elementos_.datos() + Sitio(f, col1_); }
 
 private:
+    void Intercambia(Tabla2& otra) noexcept
+    {
+        std::swap(elementos_, otra.elementos_);
+        std::swap(fila1_, otra.fila1_);
+        std::swap(filaN_, otra.filaN_);
+        std::swap(col1_, otra.col1_);
+        std::swap(colN_, otra.colN_);
+        std::swap(vale_, otra.vale_);
+    }
     static std::size_t Cuenta(int inferior, int superior)
     {
         if (superior < inferior) Lanza(error::kSubindice);

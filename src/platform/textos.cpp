@@ -35,7 +35,7 @@ const std::string& Rotulo(int n, const std::string& porDefecto)
 void CargaTextos(const std::string& ruta)
 {
     VaciaTextos();
-    LectorLineas lector(Lineas(DesdePagina(LeeOctetos(ruta))));
+    LectorLineas lector(LeeOctetos(ruta), DesdePagina);
     for (int n = 1; n <= kNumTextos; ++n) {
         g_textos.linea[static_cast<std::size_t>(n)] = lector.Lee();
         g_textos.cargadas = n;

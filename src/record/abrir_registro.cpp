@@ -18,6 +18,17 @@ std::string SiExiste(const std::string& ruta)
     return ExisteFichero(hallada) ? hallada : std::string();
 }
 
+/// The gauge while a record opens; it goes however that ends.
+struct Gasolino {
+    Gasolino() { MuestraGasolino(); }
+    ~Gasolino()
+    {
+        Intenta([] { DescargaGasolino(); });
+    }
+    Gasolino(const Gasolino&) = delete;
+    Gasolino& operator=(const Gasolino&) = delete;
+};
+
 /// Neither word, or a refused year.
 std::int16_t Rechaza(RecordStore& s)
 {
@@ -36,7 +47,7 @@ std::int16_t Rechaza(RecordStore& s)
 
 std::int16_t AbrirRegistro(RecordStore& s)
 {
-    MuestraGasolino();
+    const Gasolino gasolino;
     LlenarGasolino(true, 0);
     LeerCfg(s);
     LlenarGasolino(true, 5);
@@ -49,7 +60,6 @@ std::int16_t AbrirRegistro(RecordStore& s)
     else
         resultado = Rechaza(s);
     if (resultado >= 0 && ganchosRegistro.EscribeSesion) ganchosRegistro.EscribeSesion();
-    DescargaGasolino();
     return resultado;
 }
 

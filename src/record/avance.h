@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <functional>
 
+#include "platform/errores.h"
+
 namespace veldix {
 
 /// What opening a record asks of the rooms above. The shell fills these at start; without them they do
@@ -28,7 +30,7 @@ public:
     void Muestra()
     {
         if (cuenta_ == paso_) {
-            LlenarGasolino(true, 1);
+            Intenta([] { LlenarGasolino(true, 1); });  // a gauge that fails does not cut the record
             cuenta_ = 0;
         } else {
             ++cuenta_;

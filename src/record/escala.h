@@ -13,13 +13,10 @@ public:
     /// Takes factors and ratios of the store. `mayor` is the largest magnitude that a raw value can have.
     EscalaCanales(const RecordStore& s, double mayor);
 
-    bool Es1997() const { return es1997_; }
-    /// Whether `Muestras` takes v: every 1991 record, and a 1997 one whose channel 1 has the ratio 1/1.
-    bool Directa() const { return directa_; }
-
-    /// One sample of all channels from raw values x[0..n); rows of n columns, `prim` and `sec` for 1997
-    /// alone, `muestras` only if Directa(). A value beyond float32 is left at 0. `valida` (or null) tells
-    /// which raw values were there; the others are left at 0.
+    /// One sample of all channels from raw values x[0..n) into rows of n columns that do not overlap: v to
+    /// `muestras` for 1991, and for 1997 where channel 1 has the ratio 1/1; its sides to `prim` and `sec`
+    /// for 1997 alone. `primera` is told of sample 1, whose ratios have none before them. A value beyond
+    /// float32 is left at 0, and so is one that `valida` (or null, for all) says was not there.
     template <class X>
     void Aplica(const X* x, const bool* valida, bool primera, float* muestras, float* prim, float* sec) const;
 

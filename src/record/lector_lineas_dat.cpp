@@ -63,6 +63,12 @@ void LectorLineasDat::SaltaHastaFin()
     }
 }
 
+std::optional<std::string> LectorLineasDat::Primera()
+{
+    const auto linea = Lee();
+    return linea ? std::optional<std::string>(*linea) : std::nullopt;
+}
+
 std::optional<std::string_view> LectorLineasDat::Lee()
 {
     std::size_t visto = 0;
@@ -84,15 +90,14 @@ std::optional<std::string_view> LectorLineasDat::Lee()
         if (Rellena()) continue;
         if (agotado_) return Ultima();
         // The line fills the whole buffer: its head is kept aside of what is passed over.
-        static thread_local std::vector<char> cabeza;
-        cabeza.assign(buf_.begin(), buf_.begin() + static_cast<std::ptrdiff_t>(lleno_));
+        cabeza_.assign(buf_.begin(), buf_.begin() + static_cast<std::ptrdiff_t>(lleno_));
         pos_ = lleno_;
         if (Rellena()) SaltaHastaFin();
         if (pos_ < lleno_) {
             saltaLf_ = buf_[pos_] == '\r';
             ++pos_;
         }
-        return std::string_view(cabeza.data(), cabeza.size());
+        return std::string_view(cabeza_.data(), cabeza_.size());
     }
 }
 

@@ -16,6 +16,8 @@ public:
 
     /// The next line, valid until the next call. Errors as LectorTrozos.
     std::optional<std::string_view> Lee();
+    /// The first line of a file just opened, as a text of its own.
+    std::optional<std::string> Primera();
 
 private:
     bool Rellena();
@@ -24,6 +26,7 @@ private:
 
     LectorTrozos fichero_;
     std::vector<char> buf_;
+    std::vector<char> cabeza_;  ///< of a line that was cut
     std::size_t pos_ = 0, lleno_ = 0;
     bool agotado_ = false;
     bool saltaLf_ = false;  ///< the line before ended with a CR at the end of what was read

@@ -53,11 +53,12 @@ void Toma16(std::int16_t& destino, std::optional<std::string_view> campo)
     if (campo) Intenta([&] { destino = Entero16(TolVal(*campo)); });
 }
 
-/// The record's text, line by line. `linea` keeps the last line read where there is no next one.
+/// The record's text, line by line.
 class Lector {
 public:
     explicit Lector(const std::string& ruta) : lineas_(Abre(ruta)) {}
 
+    /// False behind the last line: what it would have given keeps its value.
     bool Avanza()
     {
         if (lineas_.Fin()) return false;
@@ -67,11 +68,11 @@ public:
     std::string linea;
 
 private:
-    static std::vector<std::string> Abre(const std::string& ruta)
+    static std::string Abre(const std::string& ruta)
     {
-        std::vector<std::string> lineas;
-        Intenta([&] { lineas = Lineas(DesdeUtf8OPagina(LeeOctetos(ruta))); });
-        return lineas;
+        std::string texto;
+        Intenta([&] { texto = DesdeUtf8OPagina(LeeOctetos(ruta)); });
+        return texto;
     }
     LectorLineas lineas_;
 };
@@ -120,6 +121,7 @@ void LeeLinea2(RecordStore& s, std::string_view linea)
     Intenta([&] { s.NumDigital = Entero16Local(SinFinal(linea.substr(q + 1), 1)); });
 }
 
+/// A fresh table; none for a count below 1, so that nothing of an earlier record is left under this one.
 template <class T>
 void Dimensiona(Tabla1<T>& tabla, std::int16_t n)
 {
@@ -237,20 +239,15 @@ void LeerCfg(RecordStore& s)
     s.ErrorFormato = false;
 
     Lector lector(s.FicheroCfg);
-    lector.Avanza();
-    if (!LeeLinea1(s, lector.linea)) return;
-    lector.Avanza();
-    LeeLinea2(s, lector.linea);
+    const std::string primera = lector.Avanza() ? lector.linea : std::string();
+    if (!LeeLinea1(s, primera)) return;
+    if (lector.Avanza()) LeeLinea2(s, lector.linea);
     DimensionaCanales(s);
     bool desdeCero = false;
-    for (int ch = 1; ch <= s.NumAnalog; ++ch) {
-        lector.Avanza();
+    for (int ch = 1; ch <= s.NumAnalog && lector.Avanza(); ++ch)
         Intenta([&] { LeeAnalogico(s, ch, lector.linea, desdeCero); });
-    }
-    for (int i = 1; i <= s.NumDigital; ++i) {
-        lector.Avanza();
+    for (int i = 1; i <= s.NumDigital && lector.Avanza(); ++i)
         Intenta([&] { LeeDigital(s, i, lector.linea); });
-    }
     LeeFinal(s, lector);
 }
 

@@ -16,7 +16,7 @@ std::int16_t LeerDatAscii(RecordStore& s);
 /// a 16-bit word for each 16 digital channels begun, lowest bit first; `TimeMult` is not applied.
 std::int16_t LeerDatBin(RecordStore& s);
 
-/// Erases samples, states and times; `FrecMuestreo` stays.
+/// Erases samples, states and times, and what side they were of; `FrecMuestreo` stays.
 void BorraMuestras(RecordStore& s);
 
 }  // namespace veldix

@@ -100,7 +100,7 @@ void LeeAnalogicos(CamposMuestra& campos, ValoresLinea& v, bool sinDigitales, co
 }
 
 /// `estados` may be null: the states then have nowhere to go.
-void LeeDigitales(CamposMuestra& campos, int n, std::int16_t* estados)
+void LeeDigitales(CamposMuestra& campos, int n, std::int16_t* estados, const Separadores& separadores)
 {
     if (estados == nullptr) return;
     for (int k = 0; k < n; ++k) {
@@ -109,12 +109,12 @@ void LeeDigitales(CamposMuestra& campos, int n, std::int16_t* estados)
         } else {
             const auto campo = campos.Siguiente(k + 1 == n);
             if (!campo) return;
-            Intenta([&] { estados[k] = Entero16Local(*campo); });
+            if (const auto estado = CampoEntero16(*campo, separadores)) estados[k] = *estado;
         }
     }
 }
 
-/// Float32 of a text is at most this; the scale's safe path asks for more than any field can hold.
+/// A field may hold any float32, so that each product is checked; the text costs far more.
 constexpr double kMayorCampo = 3.5e38;
 
 void LeeLineas(RecordStore& s)
@@ -136,7 +136,7 @@ void LeeLineas(RecordStore& s)
         LeeAnalogicos(campos, valores, s.NumDigital <= 0, separadores);
         escala.Aplica(valores.x.get(), valores.todas ? nullptr : valores.valida.get(), i == 1, filas.muestras,
                       filas.prim, filas.sec);
-        LeeDigitales(campos, s.NumDigital, filas.dig);
+        LeeDigitales(campos, s.NumDigital, filas.dig, separadores);
         gasolino.Muestra();
     }
 }

@@ -28,7 +28,7 @@ public:
 
 private:
     RecordStore& s_;
-    std::vector<float> sobra_;
+    std::vector<float> sobraPrim_, sobraSec_;
 };
 
 }  // namespace veldix

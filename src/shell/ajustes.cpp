@@ -1,7 +1,5 @@
 #include "shell/ajustes.h"
 
-#include <algorithm>
-
 #include "platform/codigos.h"
 #include "platform/enteros.h"
 #include "platform/ficheros.h"
@@ -15,7 +13,7 @@ namespace {
 
 LectorLineas AbreAjustes(const std::string& ruta)
 {
-    return LectorLineas(Lineas(DesdeUtf8OPagina(LeeOctetos(BuscaSinCaja(ruta)))));
+    return LectorLineas(DesdeUtf8OPagina(LeeOctetos(BuscaSinCaja(ruta))));
 }
 
 /// In the code page, or whole in UTF-8 where a path has a character that the page lacks, and where the

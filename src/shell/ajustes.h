@@ -36,8 +36,8 @@ std::int16_t LeeIdiomaTools(const RecordStore& s);
 /// Writes `ficher.ini` from the store; a failure is ignored.
 void EscribeSesion(const RecordStore& s);
 
-/// Reads `ficher.ini`, takes its language, and writes it back with `idioma` where one is given, else as it
-/// was read. Raises what reading and writing raise; a short file is not written.
+/// Reads `ficher.ini` and writes it back: with `idioma` on its first line where one is given, else as it was
+/// read, its language taken. Raises what reading and writing raise; a short file is not written.
 void RepasaSesion(RecordStore& s, const std::int16_t* idioma);
 
 /// Sets `FicheroIdioma` to the Spanish or the English file of `DirIni`.

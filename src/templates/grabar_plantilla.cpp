@@ -84,7 +84,7 @@ void GrabarPlantilla(const RecordStore& s, const std::string& ruta)
     Redactor redactor(s);
     try {
         redactor.Redacta();
-    } catch (const ErrorEjecucion&) {
+    } catch (const std::exception&) {
         EscribeFichero(ruta, APagina(redactor.Texto()));
         throw;
     }

@@ -6,7 +6,9 @@
 #include "platform/enteros.h"
 #include "platform/ficheros.h"
 #include "platform/numeros.h"
+#include "platform/texto.h"
 #include "platform/textos.h"
+#include "record/lector_lineas_dat.h"
 #include "templates/plantilla.h"
 
 namespace veldix {
@@ -40,7 +42,7 @@ private:
 
 class LectorPlantilla {
 public:
-    explicit LectorPlantilla(RecordStore& s) : s_(s), lineas_(Abre(s.FicheroCnf)) {}
+    explicit LectorPlantilla(RecordStore& s) : s_(s), lineas_(Abre(s.FicheroCnf), DesdePagina) {}
 
     void Lee()
     {
@@ -57,11 +59,11 @@ public:
     }
 
 private:
-    static std::vector<std::string> Abre(const std::string& ruta)
+    static std::string Abre(const std::string& ruta)
     {
-        std::vector<std::string> lineas;
-        Intenta([&] { lineas = Lineas(DesdePagina(LeeOctetos(ruta))); });
-        return lineas;
+        std::string texto;
+        Intenta([&] { texto = LeeOctetos(ruta); });
+        return texto;
     }
 
     /// The next line into `destino`, which keeps what it had behind the end of the file.
@@ -202,9 +204,17 @@ void LeerPlantilla(RecordStore& s)
 
 std::string LeerVersionPlantilla(RecordStore& s)
 {
-    LectorLineas lineas(Lineas(DesdePagina(LeeOctetos(s.FicheroCnf))));
-    s.VersionPlantilla = lineas.Lee();
+    // Each opening of a menu comes here, so that no more than a chunk of the file is read.
+    const auto linea = LectorLineasDat(s.FicheroCnf).Primera();
+    if (!linea) Lanza(error::kFinDeFichero);
+    s.VersionPlantilla = DesdePagina(*linea);
     return s.VersionPlantilla;
+}
+
+bool EsExtensionPlantilla(std::string_view ruta)
+{
+    const std::string_view extension = Derecha(ruta, 3);
+    return extension == "CNF" || extension == "cnf";
 }
 
 }  // namespace veldix

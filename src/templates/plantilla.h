@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "record/record_store.h"
 
@@ -15,6 +16,9 @@ void LeerPlantilla(RecordStore& s);
 /// The first line of `FicheroCnf`, also stored in `VersionPlantilla`. Raises 75 for an empty name or a
 /// folder, 53 for a missing file, 76 for a missing folder, 62 for an empty file.
 std::string LeerVersionPlantilla(RecordStore& s);
+
+/// Whether a path ends in "CNF" or "cnf"; a mix of cases is refused.
+bool EsExtensionPlantilla(std::string_view ruta);
 
 /// Writes the template set to `ruta`, replacing the file; its groups come from `GruposEdit` and
 /// `GruposEditNum`. A failure leaves a half-written file. Raises what writing raises, 9 for a row that the

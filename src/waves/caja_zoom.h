@@ -34,11 +34,11 @@ struct Tramo {
     float EscalaX = 0.0F;  ///< twips a sample
 };
 
-/// Samples between the box edges and the state before them: edges from the margin in steps of `EscalaX`,
-/// rounded, 1 where that is 0 or less. Raises 6 where a number leaves 16 bits.
+/// Samples from the state before a box to its edges, at least 1.
 struct BordesCaja {
     std::int16_t a = 1, b = 1;
 };
+/// The edges, from the margin in steps of `EscalaX`, rounded. Raises 6 where a number leaves 16 bits.
 BordesCaja Bordes(const NivelCaja& nivel);
 
 /// The stretch that a stored level shows of a record of `ultima` samples. Empty where it is narrower than a
@@ -48,7 +48,7 @@ std::optional<Tramo> Reproduce(const NivelCaja& nivel, std::int16_t ultima);
 /// The box zoom of one window: its state, its history, and the box that the mouse draws.
 struct ZoomCaja {
     float EscalaX = 0.0F, EscalaXAnt = 0.0F;  ///< twips a sample, now and before the last zoom
-    float EscalaXPaso = 0.0F;                 ///< twips of the cursor bar a sample
+    float EscalaXPaso = 0.0F;                 ///< of the cursor bar at layout, of the plot after a zoom
     float OrigenY = 0.0F;
     float FactorZoomYAnt = 1.0F;
     std::int16_t MuestraInicial = 0, MuestraInicialAnt = 0;

@@ -9,8 +9,6 @@ namespace veldix {
 
 namespace {
 
-constexpr double kBajoPlot = 1100.0;  // of the window's height, for frame, bars and labels
-constexpr double kHueco = 50.0;
 constexpr double kMenorZoom = 450.0;
 
 /// Widths of the arrow and print buttons are fractions of the zoom button's.

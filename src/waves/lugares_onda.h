@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -15,6 +14,11 @@ struct Lugar {
     double Abajo() const { return arriba + alto; }
 };
 
+/// Height of a wave window that is not the plot's: frame, bars and labels. Twips.
+inline constexpr double kBajoPlot = 1100.0;
+/// The gap between the controls of a wave window, twips.
+inline constexpr double kHueco = 50.0;
+
 /// Places of `cuenta` windows of one size, 1 to 8: the left column from top to bottom, then the right one.
 /// Raises 5 for another count.
 std::vector<Lugar> RejillaVentanas(int cuenta, const TamanoVista& vista);
@@ -27,7 +31,8 @@ struct MedidasOnda {
     double anchoReferencia = 0.0;  ///< that the reference label needs
 };
 
-/// Places of the controls of a wave window, in twips of its inside.
+/// Places of the controls of a wave window, in twips from the corner of its inside; widths follow the outer
+/// size, so that the plot ends under the frame.
 struct LugaresOnda {
     Lugar picbox;
     Lugar HScroll1, HScroll2;

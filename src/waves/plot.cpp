@@ -19,7 +19,7 @@ float EscalaVertical(float alto, float minimo, float maximo)
     return Single(Divide((static_cast<double>(alto) - (static_cast<double>(alto) + alto) / 50.0) / 2.0, m));
 }
 
-PuntosCurva CalculaPuntos(const Tabla2<float>& muestras, int columna, int s, int e, const EscalaCurva& escala)
+PuntosCurva CalculaPuntos(const Tabla2<float>& muestras, int columna, int s, int e, const EscalaPlot& escala)
 {
     PuntosCurva p;
     p.primera = s;
@@ -79,7 +79,8 @@ std::string TextoDiferencia(float valor1, float valor2, const std::string& unida
 std::string TextoTiempo(float cursor1, float cursor2, std::int16_t porSegundo)
 {
     const float t = Single(Divide(1000.0, porSegundo));
-    return Mascara(std::fabs(static_cast<double>(cursor1) - cursor2) * t, "0.000") + " ms";
+    const float ms = Single(std::fabs(static_cast<double>(cursor1) - cursor2) * t);
+    return Mascara(ms, "0.000") + " ms";
 }
 
 }  // namespace veldix

@@ -9,7 +9,7 @@
 namespace veldix {
 
 /// Where the samples of one curve lie on a plot. Twips, y downwards.
-struct EscalaCurva {
+struct EscalaPlot {
     float EscalaX = 0.0F;  ///< twips between neighbouring samples
     float MargenX = 0.0F;  ///< x of the first plotted sample
     float OrigenY = 0.0F;  ///< y of the value 0
@@ -31,8 +31,7 @@ float EscalaHorizontal(float ancho, double muestras);
 float EscalaVertical(float alto, float minimo, float maximo);
 
 /// Points of samples `s` to `e` of a column, none where `e` is below `s`. Raises 9 out of range.
-PuntosCurva CalculaPuntos(const Tabla2<float>& muestras, int columna, int s, int e,
-                          const EscalaCurva& escala);
+PuntosCurva CalculaPuntos(const Tabla2<float>& muestras, int columna, int s, int e, const EscalaPlot& escala);
 
 /// The column of a channel row, `Canales(r, 1)` as an integer. Raises 9, 13, 6.
 int ColumnaDeCanal(const RecordStore& s, int r);
@@ -52,7 +51,7 @@ double LugarCursor(float cursor, std::int16_t muestraInicial, float escalaX, flo
 std::string TextoMuestra(int muestra);
 std::string TextoValor(float valor, const std::string& unidades);
 std::string TextoDiferencia(float valor1, float valor2, const std::string& unidades);
-/// Time between two cursors in ms at `porSegundo` samples a second. Raises 11.
+/// Time between two cursors in ms at `porSegundo` samples a second, in single precision. Raises 11.
 std::string TextoTiempo(float cursor1, float cursor2, std::int16_t porSegundo);
 
 }  // namespace veldix

@@ -141,7 +141,7 @@ TEST(Lineas, EveryKindOfEndAndNoLineBehindTheLastOne)
     EXPECT_EQ(Lineas(std::string("a\0b\n", 4)), L{std::string("a\0b", 3)});
     EXPECT_EQ(Une({"a", "", "b"}), "a\r\n\r\nb\r\n");
 
-    LectorLineas lector({"a", ""});
+    LectorLineas lector("a\r\n\r\n");
     EXPECT_EQ(lector.Lee(), "a");
     EXPECT_FALSE(lector.Fin());
     EXPECT_EQ(lector.Lee(), "");

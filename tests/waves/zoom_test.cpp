@@ -26,6 +26,7 @@ struct Ventana {
     Ventana(std::int16_t ultima_, float& factor_) : ultima(ultima_), factor(factor_)
     {
         z.Reinicia(10000.0F, 5000.0F, ultima);
+        z.OrigenY = 2500.0F;
         factor = 1.0F;
     }
     std::optional<Tramo> Caja(float x1, float y1, float x2, float y2)
@@ -106,7 +107,7 @@ TEST(ZoomCaja, TheHistoryReplaysBoxesAndAppendsBranches)
         Comprueba(v, t, p.vista, p.acto);
     }
     EXPECT_TRUE(v.z.HayAdelante());
-    const NivelCaja columnas[] = {
+    const float columnas[][10] = {
         {0, 5000, 200, 9800, 1, 0, 5000, 10000, 10, 2500},
         {1000, 3500, 1200, 3200, 2, 0, 5000, 10000, 10, 3000},
         {2000, 4500, 1160, 3560, 4, 100, 5000, 10000, 48, 2000},
@@ -114,18 +115,12 @@ TEST(ZoomCaja, TheHistoryReplaysBoxesAndAppendsBranches)
         {1000, 3500, 1200, 3200, 2, 1, 5000, 10000, 10.0104275F, 3000},
     };
     for (int c = 1; c <= 5; ++c) {
-        SCOPED_TRACE(c);
-        const NivelCaja &hay = v.z.Pila(c), &debe = columnas[c - 1];
-        EXPECT_EQ(hay.CajaY1, debe.CajaY1);
-        EXPECT_EQ(hay.CajaY2, debe.CajaY2);
-        EXPECT_EQ(hay.CajaX1, debe.CajaX1);
-        EXPECT_EQ(hay.CajaX2, debe.CajaX2);
-        EXPECT_EQ(hay.FactorZoomY, debe.FactorZoomY);
-        EXPECT_EQ(hay.MuestraInicial, debe.MuestraInicial);
-        EXPECT_EQ(hay.Alto, debe.Alto);
-        EXPECT_EQ(hay.Ancho, debe.Ancho);
-        EXPECT_FLOAT_EQ(hay.EscalaX, debe.EscalaX);
-        EXPECT_EQ(hay.OrigenY, debe.OrigenY);
+        const NivelCaja& n = v.z.Pila(c);
+        const float filas[] = {
+            n.CajaY1, n.CajaY2, n.CajaX1,  n.CajaX2, n.FactorZoomY, static_cast<float>(n.MuestraInicial),
+            n.Alto,   n.Ancho,  n.EscalaX, n.OrigenY};
+        for (int f = 0; f < 10; ++f)
+            EXPECT_FLOAT_EQ(filas[f], columnas[c - 1][f]) << "column " << c << " row " << f;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "platform/forms/escena.h"
@@ -68,12 +69,16 @@ bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)
 {
     const int k = objeto->property("ranura").toInt();
     const bool nombre = qobject_cast<QLineEdit*>(objeto) != nullptr;
-    if (evento->type() == QEvent::MouseButtonPress &&
-        static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton) {
+    const auto izquierdo = [&] { return static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton; };
+    if (evento->type() == QEvent::MouseButtonPress && izquierdo()) {
         Q_EMIT Click(k);
     } else if (evento->type() == QEvent::MouseButtonDblClick && nombre) {
-        Q_EMIT DblClick(k);
+        if (izquierdo()) Q_EMIT DblClick(k);
         return true;
+    } else if (evento->type() == QEvent::KeyPress && nombre) {
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        if (tecla == Qt::Key_Space) Q_EMIT Click(k);
+        if (tecla == Qt::Key_Delete || tecla == Qt::Key_Backspace) Q_EMIT DblClick(k);
     }
     return QWidget::eventFilter(objeto, evento);
 }

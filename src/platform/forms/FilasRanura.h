@@ -11,14 +11,15 @@
 namespace veldix {
 
 /// The rows of a set of slots: a marker `lblpunt`, the channel's name `grp`, its number `lbl`, each with its
-/// slot's number behind its name. It shows what it is told and reports the mouse.
+/// slot's number behind its name. It shows what it is told and reports the mouse; on a name the space bar is
+/// a click, the delete keys are a double click.
 class FilasRanura : public QWidget {
     Q_OBJECT
 
 public:
     explicit FilasRanura(int cuantas, QWidget* padre = nullptr);
 
-    /// Shows the slots' texts and the marker, coloured as paleta 14 on the active slot and 15 elsewhere.
+    /// Shows the slots' texts and the marker, in colour 14 of the palette on the active slot, 15 elsewhere.
     void Muestra(const Ranuras& ranuras);
 
 Q_SIGNALS:

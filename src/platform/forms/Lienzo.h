@@ -11,7 +11,7 @@
 
 namespace veldix {
 
-// One drawing call as it was made, in twips. A line holds two points, a clearing none.
+/// One drawing call as it was made, in twips. A line holds two points, a clearing none.
 struct OperacionLienzo {
     enum class Tipo { Limpia, Linea, Poligonal };
     Tipo tipo = Tipo::Limpia;
@@ -20,14 +20,14 @@ struct OperacionLienzo {
     QRgb color = 0;
 };
 
-// A horizontal or vertical line that lies above the picture and moves without painting it again.
+/// A horizontal or vertical line that lies above the picture and moves without painting it again.
 class LineaSobre : public QWidget {
     Q_OBJECT
 
 public:
     LineaSobre(QRgb color, QWidget* lienzo);
 
-    // Twips, both ends included. A slanted line is taken as straight along its longer side from (x1, y1).
+    /// Twips, both ends included. A slanted line is taken as straight along its longer side from (x1, y1).
     void Pon(double x1, double y1, double x2, double y2);
 
 protected:
@@ -37,14 +37,14 @@ private:
     QRgb color_;
 };
 
-// A plot surface: a picture kept in memory for what is painted once. All coordinates are in twips.
+/// A plot surface: a picture kept in memory for what is painted once. All coordinates are in twips.
 class Lienzo : public QWidget {
     Q_OBJECT
 
 public:
     explicit Lienzo(QWidget* padre = nullptr);
 
-    // Clears the picture; a change of size leaves it cleared with the same background.
+    /// Clears the picture; a change of size leaves it cleared with the same background.
     void Limpia(QRgb fondo);
     void Linea(double x1, double y1, double x2, double y2, QRgb color);
     void Poligonal(std::span<const double> xs, std::span<const double> ys, QRgb color);
@@ -52,21 +52,21 @@ public:
     double Ancho() const { return ATwips(width()); }
     double Alto() const { return ATwips(height()); }
 
-    // The line belongs to the canvas and is hidden until setVisible(true).
+    /// The line belongs to the canvas and is hidden until setVisible(true).
     LineaSobre* CreaLinea(QRgb color, const QString& nombre);
 
-    // Device pixels, at the device pixel ratio of the screen.
+    /// Device pixels, at the device pixel ratio of the screen.
     const QImage& Imagen() const { return imagen_; }
 
-    // Every drawing call is also appended to `operaciones`, which must outlive its use; null ends it.
+    /// Every drawing call is also appended to `operaciones`, which must outlive its use; null ends it.
     void PonGrabadora(std::vector<OperacionLienzo>* operaciones) { grabadora_ = operaciones; }
 
 Q_SIGNALS:
-    // The left button, in twips; while it is held the point may lie outside the canvas.
+    /// The left button, in twips; while it is held the point may lie outside the canvas.
     void RatonBaja(double x, double y);
     void RatonMueve(double x, double y);
     void RatonSube(double x, double y);
-    // The picture was lost to a change of size or of screen, and is to be drawn again.
+    /// The picture was lost to a change of size or of screen, and is to be drawn again.
     void PideDibujo();
 
 protected:

@@ -33,18 +33,22 @@ QMessageBox::Icon IconoQt(Icono icono)
     return QMessageBox::NoIcon;
 }
 
+/// The box may go with its owner while it is answered, which counts as a cancel.
 bool MuestraCajaQt(const Caja& caja)
 {
     QWidget* activa = QApplication::activeWindow();
-    QMessageBox box(IconoQt(caja.icono), QStringLiteral("VELDIX"), Q(caja.texto), QMessageBox::Ok,
-                    activa ? activa : escena.principal);
-    box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Ok)->setText(Q(Rotulo(24, "Aceptar")));
+    const QPointer<QMessageBox> box =
+        new QMessageBox(IconoQt(caja.icono), QStringLiteral("VELDIX"), Q(caja.texto), QMessageBox::Ok,
+                        activa ? activa : escena.principal);
+    box->setTextFormat(Qt::PlainText);
+    box->button(QMessageBox::Ok)->setText(Q(Rotulo(24, "Aceptar")));
     if (caja.botones == Botones::AceptarCancelar) {
-        box.addButton(QMessageBox::Cancel)->setText(Q(Rotulo(25, "Cancelar")));
-        box.setEscapeButton(QMessageBox::Cancel);
+        box->addButton(QMessageBox::Cancel)->setText(Q(Rotulo(25, "Cancelar")));
+        box->setEscapeButton(QMessageBox::Cancel);
     }
-    return box.exec() == QMessageBox::Ok;
+    const bool acepta = box->exec() == QMessageBox::Ok;
+    delete box;
+    return acepta;
 }
 
 /// Key-downs of every form and of its controls.
@@ -53,7 +57,8 @@ public:
     using QObject::QObject;
     bool eventFilter(QObject* receptor, QEvent* evento) override
     {
-        if (evento->type() != QEvent::KeyPress || !escena.teclaSalir) return false;
+        if (evento->type() != QEvent::KeyPress || !escena.teclaSalir || QApplication::activeModalWidget())
+            return false;
         auto* widget = qobject_cast<QWidget*>(receptor);
         Formulario* form = widget ? FormularioDe(widget) : nullptr;
         if (!form) return false;
@@ -125,13 +130,13 @@ void PonPunteros(QWidget* form, Puntero puntero)
     PonPuntero(form, puntero);
 }
 
-PunteroEspera::PunteroEspera(QWidget& widget) : widget_(widget)
+PunteroEspera::PunteroEspera(QWidget& widget) : widget_(&widget)
 {
     PonPuntero(&widget, Puntero::Espera);
 }
 PunteroEspera::~PunteroEspera()
 {
-    PonPuntero(&widget_, Puntero::Normal);
+    PonPuntero(widget_, Puntero::Normal);
 }
 
 void InstalaEscena()
@@ -165,7 +170,9 @@ void CentraSobre(QWidget& ventana, const QWidget& otra)
 
 QString SinAcelerador(QString texto)
 {
-    return texto.remove(QLatin1Char('&'));
+    for (qsizetype i = texto.indexOf(QLatin1Char('&')); i >= 0; i = texto.indexOf(QLatin1Char('&'), i + 1))
+        texto.remove(i, 1);  // of "&&" the second one stays
+    return texto;
 }
 
 }  // namespace veldix

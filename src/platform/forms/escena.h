@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -34,7 +35,7 @@ void DescargaGasolinoOndas();
 /// cross on a plot and a busy arrow elsewhere.
 enum class Puntero { Normal = 0, Espera = 11, Propio = 99 };
 void PonPuntero(QWidget* widget, Puntero puntero);
-/// The same on the main window, the menu window and the form at once.
+/// The same on the main window, the menu window and the form at once; the menu window shows the main one's.
 void PonPunteros(QWidget* form, Puntero puntero);
 
 /// The hourglass on a widget for a scope.
@@ -46,7 +47,7 @@ public:
     PunteroEspera& operator=(const PunteroEspera&) = delete;
 
 private:
-    QWidget& widget_;
+    QPointer<QWidget> widget_;
 };
 
 /// Sends key-downs of forms to the exit-key handler, fills the message boxes and the pointer reset of the

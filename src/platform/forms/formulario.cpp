@@ -17,7 +17,11 @@ void Formulario::Descarga()
 {
     if (descargado_) return;
     descargado_ = true;
-    Form_Unload();
+    try {
+        Form_Unload();
+    } catch (const std::exception&) {
+        AvisaError(ErrorEnVuelo());
+    }
     if (QWidget* marco = Marco()) {
         marco->hide();
         marco->deleteLater();
@@ -66,8 +70,15 @@ Vista::Vista(int etiqueta) : Formulario(nullptr), etiqueta_(etiqueta)
 QWidget* Vista::Marco()
 {
     if (!ventana_) return nullptr;
-    // Out of the area at once, so that it is no longer the active child.
-    if (escena.area) escena.area->removeSubWindow(ventana_);
+    if (!escena.area) return ventana_;
+    // Out of the area at once; the view that was active before it takes its place and the focus.
+    escena.area->removeSubWindow(ventana_);
+    const auto quedan = escena.area->subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto it = quedan.rbegin(); it != quedan.rend(); ++it)
+        if ((*it)->isVisible()) {
+            escena.area->setActiveSubWindow(*it);
+            break;
+        }
     return ventana_;
 }
 
@@ -76,13 +87,13 @@ bool Vista::eventFilter(QObject* objeto, QEvent* evento)
     if (objeto != ventana_ || Descargado()) return Formulario::eventFilter(objeto, evento);
     if (evento->type() == QEvent::WindowStateChange && ventana_->isMinimized() && !minimizada_) {
         minimizada_ = true;
-        Form_Minimiza();
+        Atrapa(this, [this] { Form_Minimiza(); });
     }
     if (evento->type() == QEvent::Resize && !ventana_->isMinimized()) {
         const bool nueva = minimizada_ || ventana_->size() != tamano_;
         minimizada_ = false;
         tamano_ = ventana_->size();
-        if (nueva) Form_Resize();
+        if (nueva) Atrapa(this, [this] { Form_Resize(); });
     }
     return Formulario::eventFilter(objeto, evento);
 }
@@ -104,8 +115,12 @@ double Vista::AltoVentana() const
 
 Formulario* FormularioDe(QWidget* widget)
 {
-    for (; widget; widget = widget->parentWidget())
+    for (; widget; widget = widget->parentWidget()) {
+        if (auto* marco = qobject_cast<QMdiSubWindow*>(widget))
+            return qobject_cast<Formulario*>(marco->widget());
         if (auto* form = qobject_cast<Formulario*>(widget)) return form;
+        if (widget->isWindow()) break;
+    }
     return nullptr;
 }
 

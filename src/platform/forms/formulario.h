@@ -15,7 +15,8 @@ namespace veldix {
 
 /// A window of the program. Constructing it is its load, Descarga its unload; it unloads itself when it is
 /// closed, and then goes when the queue is next served, so that it may unload inside its own handler.
-/// Key-downs of the form and of its controls reach the common exit-key handler before anything else.
+/// Key-downs of the form, of its frame and of its controls reach the common exit-key handler before anything
+/// else; those of boxes and of dropped menus do not.
 class Formulario : public QWidget {
     Q_OBJECT
 
@@ -45,6 +46,12 @@ private:
     bool descargado_ = false;
     QPointer<QAbstractButton> porDefecto_, cancela_;
 };
+
+/// What a view is, as the close button of the strip tells views apart.
+namespace etiqueta {
+inline constexpr int kFases = 1, kSecuencias = 2, kTodoanalog = 3, kVerCmpang = 4, kVerOndas = 5, k19 = 6,
+                     kAjustes = 7, kMenu = 8, kGrid = 9;
+}  // namespace etiqueta
 
 /// A child of the main window's MDI area, with the number that tells what it is.
 class Vista : public Formulario {
@@ -127,14 +134,12 @@ public:
         form_ = new Form(std::forward<Args>(args)...);
         return *form_;
     }
-    /// The loaded form, loaded now if it was not.
-    Form& Carga() { return Cargado() ? *form_ : CargaNueva(); }
 
 private:
     QPointer<Form> form_;
 };
 
-/// The form that a widget belongs to, or null.
+/// The form that a widget, or the frame of a view, belongs to, without leaving its window; or null.
 Formulario* FormularioDe(QWidget* widget);
 
 }  // namespace veldix

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/escena.h"
-#include "platform/pantalla.h"
 #include "platform/textos.h"
 #include "shell/ajustes.h"
 
@@ -14,8 +13,6 @@ Portador<FrmMenu> FrmMenu::unica;
 FrmMenu::Principal FrmMenu::principal;
 
 namespace {
-
-constexpr int kEtiquetaVista = 8;
 
 QLabel* CreaTitulo(QWidget* padre, const char* nombre, const QString& texto, double tamano)
 {
@@ -32,7 +29,7 @@ QLabel* CreaTitulo(QWidget* padre, const char* nombre, const QString& texto, dou
 
 }  // namespace
 
-FrmMenu::FrmMenu() : Vista(kEtiquetaVista)
+FrmMenu::FrmMenu() : Vista(etiqueta::kMenu)
 {
     setObjectName("FrmMenu");
     // The background of the other windows: no frame, so that it is neither moved nor closed.
@@ -164,7 +161,7 @@ void FrmMenu::ColocaEmblema()
 void FrmMenu::resizeEvent(QResizeEvent* evento)
 {
     Vista::resizeEvent(evento);
-    if (Image1) ColocaEmblema();
+    if (Lblversion) ColocaEmblema();
 }
 
 /// The background stays as long as the main window.

@@ -81,8 +81,9 @@ private:
     QAction *mnuCanalog, *mnuCompanalog, *mnuDigGrupos, *mnuCompdig;
     std::vector<QAction*> mnuanal;         ///< tool i at i - 1
     std::vector<std::string> rutasTools_;  ///< its command
-    Emblema* Image1;
-    QLabel *Label1, *Lblversion;
+    Emblema* Image1 = nullptr;
+    QLabel* Label1 = nullptr;
+    QLabel* Lblversion = nullptr;  ///< the last one made
 };
 
 }  // namespace veldix

@@ -48,12 +48,14 @@ void FrmMenu::ConectaMenus()
 
 void FrmMenu::mnuAbrirComtrade_Click()
 {
+    frmNewOndas::unica.Descarga();  // it lists the channels of the record before
     frmAbrirComtrade().Carga();
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
 
 void FrmMenu::mnuCerrarComtrade_Click()
 {
+    frmNewOndas::unica.Descarga();
     CierraRegistro(store);
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
@@ -170,7 +172,7 @@ void FrmMenu::mnuanalisis_Click()
         const bool hay = k < ini.herramientas.size();
         const Herramienta h = hay ? ParteHerramienta(ini.herramientas[k]) : Herramienta{};
         mnuanal[k]->setText(Q(h.nombre));
-        mnuanal[k]->setVisible(hay);
+        mnuanal[k]->setVisible(!h.nombre.empty());
         mnuanal[k]->setEnabled(hay && activas);
         rutasTools_[k] = h.orden;
     }

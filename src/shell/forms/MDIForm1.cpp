@@ -1,6 +1,4 @@
 #include "shell/forms/MDIForm1.h"
-#include "shell/forms/gasolino.h"
-#include "shell/forms/gasolino_ondas.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -8,7 +6,6 @@
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QScreen>
-#include <QStyleOptionFrame>
 #include <QTime>
 #include <QVBoxLayout>
 
@@ -24,6 +21,9 @@
 #include "record/avance.h"
 #include "shell/ajustes.h"
 #include "shell/forms/FrmMenu.h"
+#include "shell/forms/gasolino.h"
+#include "shell/forms/gasolino_ondas.h"
+#include "shell/forms/traductor.h"
 #include "shell/linea_ordenes.h"
 #include "templates/plantilla.h"
 #include "waves/forms/frmVerOndas.h"
@@ -151,19 +151,20 @@ void MDIForm1::MDIForm_Load()
         const QRect libre = QApplication::primaryScreen()->availableGeometry();
         store.AltoPantalla = ATwips(libre.height());
         store.AnchoPantalla = ATwips(libre.width());
-        setGeometry(libre);
+        resize(libre.size());
+        move(libre.topLeft());
         const std::string& programa = store.RutaPrograma;
         store.DirIni = programa.substr(0, programa.size() < 3 ? 0 : programa.size() - 3) + "ini";
         CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));
         setCursor(Qt::WaitCursor);
         store.RegistroAbierto = false;
         store.PlantillaAplicada = false;
-        show();
+        showMaximized();
         FrmMenu::unica.CargaNueva();
         MuestraMenu();
         setWindowTitle(kTitulo);
         PonRotulos();
-        LineaOrdenes();
+        EjecutaLinea();
     } catch (const std::exception&) {
         const ErrorEjecucion e = ErrorEnVuelo();
         PunteroNormal();
@@ -173,7 +174,7 @@ void MDIForm1::MDIForm_Load()
     MuestraMenu();
 }
 
-void MDIForm1::LineaOrdenes()
+void MDIForm1::EjecutaLinea()
 {
     const auto [dat, plantilla] = ParteLinea(linea_);
     if (dat.empty()) return;
@@ -202,8 +203,7 @@ void MDIForm1::PlantillaDeLinea(const std::string& plantilla)
         return;
     }
     store.FicheroCnf = plantilla;
-    const std::string_view extension = Derecha(plantilla, 3);
-    if (extension != "CNF" && extension != "cnf") {
+    if (!EsExtensionPlantilla(plantilla)) {
         PunteroNormal();
         Avisa(Textos(147) + " " + plantilla, Icono::Critico);
         return;
@@ -225,13 +225,16 @@ void MDIForm1::MuestraRegistro()
 
 void MDIForm1::PonRotulos()
 {
+    PonTraductor(store.Idioma == 1);
     cmdSalir->setText(Q(Rotulo(63, "Salir")));
     ColocaTira();
 }
 
 void MDIForm1::ColocaTira()
 {
-    mnuTime->resize(mnuTime->sizeHint().width(), cmdSalir->sizeHint().height());
+    const QFontMetrics letra = mnuTime->fontMetrics();
+    const int ancho = qMax(letra.horizontalAdvance("00:00 AM"), letra.horizontalAdvance("00:00 PM"));
+    mnuTime->resize(ancho + letra.averageCharWidth(), cmdSalir->sizeHint().height());
     cmdSalir->resize(cmdSalir->sizeHint());
     const LugaresTira l =
         veldix::ColocaTira(ATwips(tira_->width()), ATwips(mnuTime->width()), ATwips(cmdSalir->width()));
@@ -273,21 +276,38 @@ void MDIForm1::keyPressEvent(QKeyEvent* evento)
         QMainWindow::keyPressEvent(evento);
 }
 
-void MDIForm1::cmdSalir_Click()
+/// The view that the strip's button acts on, null where the menu stands.
+Vista* MDIForm1::VistaActiva() const
 {
-    QMdiSubWindow* activa = area_->currentSubWindow();
-    auto* vista = activa && activa->isVisible() ? qobject_cast<Vista*>(activa->widget()) : nullptr;
-    Formulario* form = vista ? vista : FrmMenu::unica.Cargado();
-    Atrapa(form, [&] { CierraVista(vista ? vista->Etiqueta() : 8); });
+    const auto vista = [](QMdiSubWindow* ventana) {
+        return ventana && ventana->isVisible() ? qobject_cast<Vista*>(ventana->widget()) : nullptr;
+    };
+    if (Vista* activa = vista(area_->currentSubWindow())) return activa;
+    const auto ventanas = area_->subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto it = ventanas.rbegin(); it != ventanas.rend(); ++it)
+        if (Vista* otra = vista(*it)) return otra;
+    return nullptr;
 }
 
-void MDIForm1::CierraVista(int etiqueta)
+void MDIForm1::cmdSalir_Click()
 {
-    if (etiqueta == 8) {
+    Vista* activa = VistaActiva();
+    Formulario* form = activa ? activa : FrmMenu::unica.Cargado();
+    Atrapa(form, [&] { CierraVista(activa); });
+}
+
+void MDIForm1::CierraVista(Vista* vista)
+{
+    const int que = vista ? vista->Etiqueta() : etiqueta::kMenu;
+    if (que == etiqueta::kMenu) {
         if (Pregunta(Textos(284))) close();
         return;
     }
-    if (etiqueta == 5) CierraOndas();
+    if (que < etiqueta::kFases || que > etiqueta::kGrid) return;
+    if (que == etiqueta::kVerOndas)
+        CierraOndas();
+    else
+        vista->Descarga();
     veldix::MuestraMenu();
 }
 

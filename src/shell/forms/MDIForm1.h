@@ -10,6 +10,8 @@
 
 namespace veldix {
 
+class Vista;
+
 /// A label that shows as much of a path as fits, its middle left out, and all of it in its tool tip.
 class EtiquetaRuta : public QLabel {
     Q_OBJECT
@@ -35,8 +37,9 @@ public:
 
     /// The start-up steps, from the screen's size to the command line.
     void MDIForm_Load();
-    /// Unloads every form in its order and closes the window. Does nothing the second time.
+    /// Unloads every form in its order, which ends the window's work. Does nothing the second time.
     void MDIForm_Unload();
+    bool Descargado() const { return descargado_; }
 
     /// The common key handler: true where it took the exit key and pressed `cmdSalir`. Raises what reading
     /// `tools.ini` raises.
@@ -56,14 +59,15 @@ private:
     void CreaTira();
     void ColocaTira();
     void LlenaGanchos();
-    void LineaOrdenes();
+    void EjecutaLinea();
     void AbreDeLinea(const std::string& dat);
     void PlantillaDeLinea(const std::string& plantilla);
     void MuestraMenu();
 
     void Reloj_Timer();
     void cmdSalir_Click();
-    void CierraVista(int etiqueta);
+    Vista* VistaActiva() const;
+    void CierraVista(Vista* vista);
     void CierraOndas();
 
     QMdiArea* area_;

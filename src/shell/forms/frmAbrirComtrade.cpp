@@ -38,7 +38,7 @@ struct Antes {
 void frmAbrirComtrade::Carga()
 {
     const auto elegido =
-        EligeFichero({Rotulo(18, "Abrir registro COMTRADE"), store.DirDatos, "Data Files (*.dat)", "dat"});
+        EligeFichero({Rotulo(18, "Abrir fichero COMTRADE"), store.DirDatos, "Data Files (*.dat)", "dat"});
     if (elegido) Abre(*elegido);
 }
 

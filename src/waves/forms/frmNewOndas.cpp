@@ -25,15 +25,18 @@ frmNewOndas::frmNewOndas() : Formulario(escena.principal, Qt::Dialog)
     Coloca();
     LlenaLista();
     Conecta(List1, &QListWidget::itemDoubleClicked, this, &frmNewOndas::List1_DblClick);
-    auto* enter = new QShortcut(QKeySequence(Qt::Key_Return), List1);
-    enter->setContext(Qt::WidgetShortcut);
-    Conecta(enter, &QShortcut::activated, this, &frmNewOndas::List1_DblClick);
+    for (const int tecla : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* atajo = new QShortcut(QKeySequence(tecla), List1);
+        atajo->setContext(Qt::WidgetShortcut);
+        Conecta(atajo, &QShortcut::activated, this, &frmNewOndas::List1_DblClick);
+    }
     Conecta(filas_, &FilasRanura::Click, this, &frmNewOndas::grp_Click);
     Conecta(filas_, &FilasRanura::DblClick, this, &frmNewOndas::grp_DblClick);
     Conecta(filas_, &FilasRanura::Change, this, &frmNewOndas::grp_Change);
     Conecta(cmdOK, &QPushButton::clicked, this, &frmNewOndas::cmdOK_Click);
     Conecta(cmdSalir, &QPushButton::clicked, this, &frmNewOndas::cmdSalir_Click);
     filas_->Muestra(ranuras_);
+    List1->setFocus();
     Centra(*this);
 }
 
@@ -43,11 +46,11 @@ void frmNewOndas::CreaControles()
     Frame1->setObjectName("Frame1");
     Frame2 = new QGroupBox(Q(Rotulo(256, "Canales elegidos")), this);
     Frame2->setObjectName("Frame2");
-    Frame3 = new MarcoReferencia("Frame3", this);
     List1 = new QListWidget(Frame1);
     List1->setObjectName("List1");
     List1->setAccessibleName(Frame1->title());
     filas_ = new FilasRanura(ranuras_.Cuantas(), Frame2);
+    Frame3 = new MarcoReferencia("Frame3", this);
     const auto boton = [this](const char* nombre, int texto, const char* defecto) {
         auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
         b->setObjectName(nombre);
@@ -69,6 +72,7 @@ void frmNewOndas::Coloca()
     ranuras->addWidget(filas_);
     ranuras->addStretch(1);
     auto* columna = new QVBoxLayout;
+    if (store.RevisionCfg != "1997") columna->setSpacing(0);
     columna->addWidget(Frame3);
     for (QPushButton* b : {cmdOK, cmdtodo, cmdSalir}) {
         columna->addStretch(1);
@@ -135,10 +139,12 @@ int frmNewOndas::CuentaElegidos()
 
 void frmNewOndas::cmdOK_Click()
 {
+    abriendo_ = true;
     PonPuntero(this, Puntero::Espera);
     store.VentanaOnda = Tabla1<frmVerOndas*>(store.NumAnalog);
     const int cuenta = CuentaElegidos();
     if (cuenta == 0) {
+        abriendo_ = false;
         PonPunteros(this, Puntero::Normal);
         Avisa(Textos(82), Icono::Critico);
         return;
@@ -175,7 +181,6 @@ void frmNewOndas::ActivaVentanas(const std::vector<Lugar>& lugares)
         do
             ++r;
         while (store.OndaCanal(r) != 1);
-        CanalEnCurso_ = r;
         store.VentanaOnda(r) = new frmVerOndas(r);
         store.VentanaOnda(r)->Form_activo(l.alto, l.ancho, l.arriba, l.izquierda);
     }
@@ -193,8 +198,10 @@ void frmNewOndas::MuestraVentanas()
     }
 }
 
+/// Only what was begun by opening is undone; after any other handler's error the dialog stays.
 void frmNewOndas::TrasError()
 {
+    if (!abriendo_) return;
     DescargaGasolinoOndas();
     for (frmVerOndas* ventana : store.VentanaOnda)
         if (ventana) ventana->Descarga();

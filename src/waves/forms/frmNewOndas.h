@@ -19,9 +19,6 @@ public:
     frmNewOndas();
     static Portador<frmNewOndas> unica;
 
-    /// The channel row that the last window was opened for.
-    int CanalEnCurso() const { return CanalEnCurso_; }
-
     void TrasError() override;
 
 protected:
@@ -50,8 +47,8 @@ private:
     FilasRanura* filas_;
     QPushButton *cmdOK, *cmdtodo, *cmdSalir;
 
-    Ranuras ranuras_{8};  ///< its active slot is the one that takes the next channel
-    int CanalEnCurso_ = 0;
+    Ranuras ranuras_{8};     ///< its active slot is the one that takes the next channel
+    bool abriendo_ = false;  ///< cmdOK is at work
 };
 
 }  // namespace veldix

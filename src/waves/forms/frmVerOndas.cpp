@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QStyle>
+#include <QStyleOptionTitleBar>
 
 #include "platform/forms/escena.h"
 #include "platform/forms/iconos.h"
@@ -12,8 +13,6 @@ namespace veldix {
 
 namespace {
 
-constexpr int kEtiquetaVista = 5;
-
 QLabel* CreaEtiqueta(QWidget* padre, const char* nombre)
 {
     auto* l = new QLabel(padre);
@@ -22,56 +21,48 @@ QLabel* CreaEtiqueta(QWidget* padre, const char* nombre)
     return l;
 }
 
-QScrollBar* CreaBarra(QWidget* padre, const char* nombre, const QString& accesible)
-{
-    auto* b = new QScrollBar(Qt::Horizontal, padre);
-    b->setObjectName(nombre);
-    b->setFocusPolicy(Qt::StrongFocus);
-    b->setAccessibleName(accesible);
-    return b;
-}
-
 /// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
+/// They do not widen again before the next layout, so that they stand still while a cursor moves.
 void PonTexto(QLabel* etiqueta, const QString& texto)
 {
     constexpr int kMenorAncho = 60;  // percent
     QFont letra = etiqueta->font();
-    letra.setStretch(QFont::Unstretched);
     const int pide = QFontMetrics(letra).horizontalAdvance(texto);
-    if (pide > etiqueta->width() && etiqueta->width() > 0)
-        letra.setStretch(qMax(kMenorAncho, 100 * etiqueta->width() / pide));
-    etiqueta->setFont(letra);
+    if (pide > etiqueta->width() && etiqueta->width() > 0) {
+        const int ahora = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
+        letra.setStretch(qMax(kMenorAncho, ahora * etiqueta->width() / pide));
+        etiqueta->setFont(letra);
+    }
     etiqueta->setText(texto);
 }
 
-void Coloca(QWidget* w, const Lugar& l)
+void Pon(QWidget* w, const Lugar& l)
 {
     w->setGeometry(APixeles(l.izquierda), APixeles(l.arriba), APixeles(l.ancho), APixeles(l.alto));
 }
 
 }  // namespace
 
-frmVerOndas::frmVerOndas(int canal) : Vista(kEtiquetaVista), Canal_(canal)
+frmVerOndas::frmVerOndas(int canal) : Vista(etiqueta::kVerOndas), Canal_(canal)
 {
     setObjectName("frmVerOndas");
     CreaControles();
     CreaBotones();
     ConectaControles();
-    zoom_.FactorZoomYAnt = 1.0F;
 }
 
 void frmVerOndas::CreaControles()
 {
     picbox = new Lienzo(this);
     picbox->setObjectName("picbox");
-    Lineizq = picbox->CreaLinea(kCursorAmarillo | 0xFF000000U, "Lineizq");
-    Lineder = picbox->CreaLinea(kCursorCian | 0xFF000000U, "Lineder");
-    Line2 = picbox->CreaLinea(kCajaZoom | 0xFF000000U, "Line2");
-    Line3 = picbox->CreaLinea(kCajaZoom | 0xFF000000U, "Line3");
-    Line4 = picbox->CreaLinea(kCajaZoom | 0xFF000000U, "Line4");
-    Line5 = picbox->CreaLinea(kCajaZoom | 0xFF000000U, "Line5");
-    HScroll1 = CreaBarra(this, "HScroll1", "Cursor 1");
-    HScroll2 = CreaBarra(this, "HScroll2", "Cursor 2");
+    Lineizq = picbox->CreaLinea(kCursorAmarillo, "Lineizq");
+    Lineder = picbox->CreaLinea(kCursorCian, "Lineder");
+    Line2 = picbox->CreaLinea(kCajaZoom, "Line2");
+    Line3 = picbox->CreaLinea(kCajaZoom, "Line3");
+    Line4 = picbox->CreaLinea(kCajaZoom, "Line4");
+    Line5 = picbox->CreaLinea(kCajaZoom, "Line5");
+    HScroll1 = new BarraCursor("HScroll1", "Cursor 1", this);
+    HScroll2 = new BarraCursor("HScroll2", "Cursor 2", this);
     lblizq = CreaEtiqueta(this, "lblizq");
     lblamar = CreaEtiqueta(this, "lblamar");
     lblder = CreaEtiqueta(this, "lblder");
@@ -92,9 +83,10 @@ void frmVerOndas::CreaBotones()
     };
     cmdzoom = crea("cmdzoom", IconoZoom(), Q(Rotulo(61, "Zoom")));
     cmdzoom->setText(Q(Rotulo(61, "Zoom")));
-    cmdadel = crea("cmdadel", IconoAdelante(), ">>");
-    cmdatras = crea("cmdatras", IconoAtras(), "<<");
-    pctimpresora = crea("pctimpresora", IconoImprimir(), QString());
+    anchoZoom_ = ATwips(cmdzoom->sizeHint().width());
+    cmdadel = crea("cmdadel", IconoAdelante(), Q(Rotulo(51, "Zoom siguiente")));
+    cmdatras = crea("cmdatras", IconoAtras(), Q(Rotulo(52, "Zoom anterior")));
+    pctimpresora = crea("pctimpresora", IconoImprimir(), Q(Rotulo(57, "Imprimir")));
     pctimpresora->setEnabled(false);
 }
 
@@ -108,6 +100,7 @@ void frmVerOndas::ConectaControles()
     Conecta(picbox, &Lienzo::RatonBaja, this, &frmVerOndas::picbox_MouseDown);
     Conecta(picbox, &Lienzo::RatonMueve, this, &frmVerOndas::picbox_MouseMove);
     Conecta(picbox, &Lienzo::RatonSube, this, &frmVerOndas::picbox_MouseUp);
+    Conecta(picbox, &Lienzo::PideDibujo, this, &frmVerOndas::picbox_PideDibujo);
 }
 
 void frmVerOndas::Form_activo(double alto, double ancho, double arriba, double izquierda)
@@ -117,6 +110,7 @@ void frmVerOndas::Form_activo(double alto, double ancho, double arriba, double i
         Activa = false;
         const PunteroEspera espera(*this);
         setWindowTitle(Q(NombreCanal(store, Canal_)));
+        picbox->setAccessibleName(windowTitle());
         columna_ = ColumnaDeCanal(store, Canal_);
         ultima_ = static_cast<std::int16_t>(store.Muestras.UBound(1));
         Coloca(izquierda, arriba, ancho, alto);
@@ -127,37 +121,50 @@ void frmVerOndas::Form_activo(double alto, double ancho, double arriba, double i
     });
 }
 
-void frmVerOndas::ColocaControles()
+/// What the fonts ask for, within the height that the window leaves below the plot.
+MedidasOnda frmVerOndas::Medidas() const
 {
     const QFontMetrics letra(lblizq->font());
+    const auto& estilo = *style();
+    const int marco = estilo.pixelMetric(QStyle::PM_TitleBarHeight) +
+                      2 * estilo.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const double queda = kBajoPlot - ATwips(marco) - 2.0 * kHueco;
     MedidasOnda m;
-    m.altoEtiqueta = ATwips(letra.height());
-    m.altoBarra = ATwips(HScroll1->sizeHint().height());
-    m.anchoZoom = ATwips(cmdzoom->sizeHint().width());
+    m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), queda / 2.0);
+    m.altoEtiqueta = qMin(ATwips(letra.height()), queda - m.altoBarra);
+    m.anchoZoom = anchoZoom_;
     if (store.RevisionCfg == "1997")
         m.anchoReferencia = ATwips(qMax(letra.horizontalAdvance(Q(Rotulo(279, "PRIMARIO"))),
                                         letra.horizontalAdvance(Q(Rotulo(280, "SECUNDARIO")))));
-    const auto lugares = ColocaOnda(AnchoVentana(), AltoVentana(), qAbs(store.NumVentanasOnda), m);
-    if (!lugares) return;
-    veldix::Coloca(picbox, lugares->picbox);
+    return m;
+}
+
+/// A window too low for a plot keeps its controls where they are.
+void frmVerOndas::ColocaControles()
+{
+    const auto lugares = ColocaOnda(AnchoVentana(), AltoVentana(), qAbs(store.NumVentanasOnda), Medidas());
+    if (lugares) Pon(picbox, lugares->picbox);
     zoom_.Reinicia(static_cast<float>(picbox->Ancho()), static_cast<float>(picbox->Alto()), ultima_);
+    tramo_.reset();
+    PonBarras(1, 1, ultima_);
+    Cursor1 = Cursor2 = 1.0F;
+    if (!lugares) return;
     ColocaBarras(*lugares);
-    ColocaTextos(*lugares);
+    ColocaEtiquetas(*lugares);
+    ColocaBotones(*lugares);
     ColocaReferencia(*lugares);
 }
 
-/// The lines stand by the bar's own scale until a bar is moved.
+/// The lines stand by the bar's own scale until a cursor moves.
 void frmVerOndas::ColocaBarras(const LugaresOnda& l)
 {
     const int paso = PasoDeCursor(store);
-    for (QScrollBar* b : {HScroll1, HScroll2}) {
+    for (BarraCursor* b : {HScroll1, HScroll2}) {
         b->setSingleStep(1);
         b->setPageStep(paso);
     }
-    PonBarras(1, 1, ultima_);
-    Cursor1 = Cursor2 = 1.0F;
-    veldix::Coloca(HScroll1, l.HScroll1);
-    veldix::Coloca(HScroll2, l.HScroll2);
+    Pon(HScroll1, l.HScroll1);
+    Pon(HScroll2, l.HScroll2);
     zoom_.EscalaXPaso = static_cast<float>(l.HScroll1.ancho / ultima_);
     for (LineaSobre* linea : {Lineizq, Lineder}) {
         const double x = static_cast<double>(Cursor1) * zoom_.EscalaXPaso + MargenX;
@@ -166,18 +173,16 @@ void frmVerOndas::ColocaBarras(const LugaresOnda& l)
     }
 }
 
-void frmVerOndas::ColocaTextos(const LugaresOnda& l)
+/// The texts of sample 1, at both cursors.
+void frmVerOndas::ColocaEtiquetas(const LugaresOnda& l)
 {
-    veldix::Coloca(lblizq, l.lblizq);
-    veldix::Coloca(lblamar, l.lblamar);
-    veldix::Coloca(lblder, l.lblder);
-    veldix::Coloca(lblcian, l.lblcian);
-    veldix::Coloca(lblms, l.lblms);
-    veldix::Coloca(lblDif, l.lblDif);
-    veldix::Coloca(cmdzoom, l.cmdzoom);
-    veldix::Coloca(cmdadel, l.cmdadel);
-    veldix::Coloca(cmdatras, l.cmdatras);
-    veldix::Coloca(pctimpresora, l.pctimpresora);
+    const std::pair<QLabel*, const Lugar*> lugares[] = {{lblizq, &l.lblizq}, {lblamar, &l.lblamar},
+                                                        {lblder, &l.lblder}, {lblcian, &l.lblcian},
+                                                        {lblms, &l.lblms},   {lblDif, &l.lblDif}};
+    for (const auto& [etiqueta, lugar] : lugares) {
+        etiqueta->setFont(font());
+        Pon(etiqueta, *lugar);
+    }
     const std::string& unidades = store.Canales(Canal_).Unidades;
     const QString valor = Q(TextoValor(store.Muestras(1, columna_), unidades));
     PonTexto(lblizq, Q(TextoMuestra(1)));
@@ -188,14 +193,21 @@ void frmVerOndas::ColocaTextos(const LugaresOnda& l)
     PonTexto(lblDif, Q("0.000 " + unidades));
     textoMs_ = lblms->text();
     textoDif_ = lblDif->text();
+}
+
+void frmVerOndas::ColocaBotones(const LugaresOnda& l)
+{
+    Pon(cmdzoom, l.cmdzoom);
+    Pon(cmdadel, l.cmdadel);
+    Pon(cmdatras, l.cmdatras);
+    Pon(pctimpresora, l.pctimpresora);
     // In a narrow window the caption alone tells more than a picture and half a word.
-    const bool cabe = l.cmdzoom.ancho >= ATwips(cmdzoom->sizeHint().width());
-    cmdzoom->setIcon(cabe ? IconoZoom() : QIcon());
+    cmdzoom->setIcon(l.cmdzoom.ancho >= anchoZoom_ ? IconoZoom() : QIcon());
 }
 
 void frmVerOndas::ColocaReferencia(const LugaresOnda& l)
 {
-    veldix::Coloca(lbl_PS, l.lbl_PS);
+    Pon(lbl_PS, l.lbl_PS);
     const bool hay = store.RevisionCfg == "1997" && (store.EnPrimario || store.EnSecundario);
     if (hay) lbl_PS->setText(Q(store.EnPrimario ? Rotulo(279, "PRIMARIO") : Rotulo(280, "SECUNDARIO")));
     lbl_PS->setVisible(hay);
@@ -204,8 +216,8 @@ void frmVerOndas::ColocaReferencia(const LugaresOnda& l)
 void frmVerOndas::PintaEjes()
 {
     const double w = picbox->Ancho(), h = picbox->Alto();
-    picbox->Limpia(kFondoPlot | 0xFF000000U);
-    const QRgb color = ColorPaleta(kColorEjes) | 0xFF000000U;
+    picbox->Limpia(kFondoPlot);
+    const QRgb color = ColorPaleta(kColorEjes);
     picbox->Linea(w / 50.0, h / 2.0, 49.0 * w / 50.0, h / 2.0, color);
     picbox->Linea(w / 50.0, h / 50.0, w / 50.0, 49.0 * h / 50.0, color);
     MargenX = static_cast<float>(w / 50.0);
@@ -217,16 +229,37 @@ void frmVerOndas::PintaOndas()
     TablaMinMax(store, store.Muestras);
     EscalaY = EscalaVertical(static_cast<float>(picbox->Alto()), store.MinCanal(columna_),
                              store.MaxCanal(columna_));
-    store.FactorZoomY = 1.0F;
+    store.FactorZoomY = factor_ = 1.0F;
     zoom_.FactorZoomYAnt = 1.0F;
     Curva(1, ultima_);
 }
 
 void frmVerOndas::Curva(int s, int e)
 {
-    puntos_ = CalculaPuntos(store.Muestras, columna_, s, e,
-                            {zoom_.EscalaX, MargenX, zoom_.OrigenY, EscalaY, store.FactorZoomY});
-    picbox->Poligonal(puntos_.PuntosX, puntos_.PuntosY, ColorCurva(store.Colores, Canal_) | 0xFF000000U);
+    const PuntosCurva p = CalculaPuntos(store.Muestras, columna_, s, e,
+                                        {zoom_.EscalaX, MargenX, zoom_.OrigenY, EscalaY, factor_});
+    picbox->Poligonal(p.PuntosX, p.PuntosY, ColorCurva(store.Colores, Canal_));
+}
+
+void frmVerOndas::LineaCero()
+{
+    const double w = picbox->Ancho();
+    if (zoom_.OrigenY < picbox->Alto())
+        picbox->Linea(MargenX, zoom_.OrigenY, w, zoom_.OrigenY, ColorPaleta(kColorEjes));
+}
+
+/// The picture was lost to another screen: the same is drawn again, with the factor it was drawn with.
+void frmVerOndas::picbox_PideDibujo()
+{
+    if (!Activa) return;
+    if (tramo_) {
+        picbox->Limpia(kFondoPlot);
+        LineaCero();
+        Curva(tramo_->s, tramo_->e);
+    } else {
+        PintaEjes();
+        Curva(1, ultima_);
+    }
 }
 
 void frmVerOndas::RedibujaZoom()
@@ -240,9 +273,10 @@ void frmVerOndas::RedibujaZoom()
         Avisa(Textos(80), nueva ? Icono::Critico : Icono::Ninguno);
         return;
     }
-    picbox->Limpia(kFondoPlot | 0xFF000000U);
-    if (zoom_.OrigenY < h)
-        picbox->Linea(MargenX, zoom_.OrigenY, w, zoom_.OrigenY, ColorPaleta(kColorEjes) | 0xFF000000U);
+    tramo_ = tramo;
+    factor_ = store.FactorZoomY;
+    picbox->Limpia(kFondoPlot);
+    LineaCero();
     Curva(tramo->s, tramo->e);
     PonBarras(tramo->s, tramo->s, tramo->e);
     HScroll1_Change();
@@ -253,7 +287,7 @@ void frmVerOndas::RedibujaZoom()
 /// Sets both bars without their handlers. A stretch that runs backwards holds them to its end.
 void frmVerOndas::PonBarras(int minimo, int valor, int maximo)
 {
-    for (QScrollBar* b : {HScroll1, HScroll2}) {
+    for (BarraCursor* b : {HScroll1, HScroll2}) {
         const QSignalBlocker calla(b);
         b->setRange(qMin(minimo, maximo), maximo);
         b->setValue(SujetaCursor(valor, minimo, maximo));
@@ -355,6 +389,7 @@ void frmVerOndas::picbox_MouseUp(double x, double y)
         const PunteroEspera espera(*this);
         RedibujaZoom();
     }
+    if (!vivo || Descargado()) return;
     PonPuntero(this, Puntero::Normal);
     MuestraCaja(false);
     PonPuntero(picbox, Puntero::Normal);
@@ -379,15 +414,11 @@ void frmVerOndas::PonCaja(double x, double y)
 void frmVerOndas::Form_Resize()
 {
     if (!Activa) return;
-    Atrapa(this, [this] {
-        PonPuntero(this, Puntero::Propio);
-        ColocaControles();
-        PintaEjes();
-        zoom_.EscalaX = EscalaHorizontal(static_cast<float>(picbox->Ancho()), ultima_);
-        zoom_.EscalaXPaso = static_cast<float>(picbox->Ancho() / ultima_);
-        PintaOndas();
-        PonPuntero(this, Puntero::Normal);
-    });
+    PonPuntero(this, Puntero::Propio);
+    ColocaControles();
+    PintaEjes();
+    PintaOndas();
+    PonPuntero(this, Puntero::Normal);
 }
 
 void frmVerOndas::Form_Minimiza()

@@ -2,8 +2,10 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
 
+#include <optional>
+
+#include "platform/forms/BarraCursor.h"
 #include "platform/forms/Lienzo.h"
 #include "platform/forms/formulario.h"
 #include "waves/caja_zoom.h"
@@ -42,12 +44,16 @@ private:
     void ConectaControles();
     void ColocaControles();
     void ColocaBarras(const LugaresOnda& l);
-    void ColocaTextos(const LugaresOnda& l);
+    void ColocaEtiquetas(const LugaresOnda& l);
+    void ColocaBotones(const LugaresOnda& l);
+    MedidasOnda Medidas() const;
     void ColocaReferencia(const LugaresOnda& l);
     void PintaEjes();
     void PintaOndas();
     void RedibujaZoom();
     void Curva(int s, int e);
+    void LineaCero();
+    void picbox_PideDibujo();
     void PonBarras(int minimo, int valor, int maximo);
 
     void HScroll1_Change();
@@ -66,20 +72,22 @@ private:
     Lienzo* picbox;
     LineaSobre *Lineizq, *Lineder;
     LineaSobre *Line2, *Line3, *Line4, *Line5;  ///< top, left, bottom and right edge of the zoom box
-    QScrollBar *HScroll1, *HScroll2;
+    BarraCursor *HScroll1, *HScroll2;
     QLabel *lblizq, *lblder, *lblamar, *lblcian, *lblms, *lblDif, *lbl_PS;
     QPushButton *cmdzoom, *cmdadel, *cmdatras, *pctimpresora;
 
     int Canal_;
     int columna_ = 0;  ///< of `Muestras`
     std::int16_t ultima_ = 0;
+    std::optional<Tramo> tramo_;  ///< that a zoom shows, none at 1:1
+    float factor_ = 1.0F;         ///< vertical factor of what is drawn
     bool Activa = false;
     float Cursor1 = 1.0F, Cursor2 = 1.0F;
     float MargenX = 0.0F, EscalaY = 0.0F;
     bool punteroPropio_ = false;        ///< the plot's pointer is that of an armed zoom
     double cajaX_ = 0.0, cajaY_ = 0.0;  ///< where the mouse went down, as the event had it
     ZoomCaja zoom_;
-    PuntosCurva puntos_;
+    double anchoZoom_ = 0.0;  ///< that the zoom button asks for with its picture, twips
     QString textoDif_, textoMs_;
 };
 

@@ -1,9 +1,9 @@
-#include "record/leer_dat.h"
+#include "record/leer_dat_comun.h"
 
 #include <algorithm>
 
 #include "platform/enteros.h"
-#include "record/leer_dat_comun.h"
+#include "record/leer_dat.h"
 
 namespace veldix {
 
@@ -14,6 +14,8 @@ void BorraMuestras(RecordStore& s)
     s.MuestrasSec = {};
     s.MuestrasDig = {};
     s.Tiempos = {};
+    s.EnPrimario = false;
+    s.EnSecundario = false;
 }
 
 /// Each size hangs on the one before it: without `Muestras` there are no states and no times.
@@ -42,15 +44,15 @@ void CalculaFrecMuestreo(RecordStore& s)
 }
 
 FilasMuestra::FilasMuestra(RecordStore& s, int canales)
-    : s_(s), sobra_(static_cast<std::size_t>(std::max(canales, 1)))
+    : s_(s), sobraPrim_(static_cast<std::size_t>(std::max(canales, 1))), sobraSec_(sobraPrim_)
 {
 }
 
 void FilasMuestra::Ve(int i)
 {
     muestras = s_.Muestras.fila(i);
-    prim = s_.MuestrasPrim.Vacia() ? sobra_.data() : s_.MuestrasPrim.fila(i);
-    sec = s_.MuestrasSec.Vacia() ? sobra_.data() : s_.MuestrasSec.fila(i);
+    prim = s_.MuestrasPrim.Vacia() ? sobraPrim_.data() : s_.MuestrasPrim.fila(i);
+    sec = s_.MuestrasSec.Vacia() ? sobraSec_.data() : s_.MuestrasSec.fila(i);
     dig = s_.MuestrasDig.Vacia() ? nullptr : s_.MuestrasDig.fila(i);
 }
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QScrollBar>
+
+namespace veldix {
+
+/// A horizontal bar whose value is a sample number. Arrow keys move it by a sample, page keys by the large
+/// step, Home and End to its ends; to the right is later.
+class BarraCursor : public QScrollBar {
+    Q_OBJECT
+
+public:
+    BarraCursor(const QString& nombre, const QString& accesible, QWidget* padre);
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+};
+
+}  // namespace veldix
