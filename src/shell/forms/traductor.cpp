@@ -2,16 +2,18 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QPointer>
 #include <QTranslator>
 
 namespace veldix {
 
 void PonTraductor(bool espanol)
 {
-    static QTranslator traductor(QCoreApplication::instance());
-    QCoreApplication::removeTranslator(&traductor);
-    if (espanol && traductor.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&traductor);
+    static QPointer<QTranslator> traductor;
+    if (!traductor) traductor = new QTranslator(QCoreApplication::instance());
+    QCoreApplication::removeTranslator(traductor);
+    if (espanol && traductor->load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(traductor);
 }
 
 }  // namespace veldix
