@@ -33,11 +33,8 @@ std::vector<fs::path> Ficheros(const fs::path& carpeta)
     return r;
 }
 
-void Repite(const Objetivo& objetivo, const fs::path& carpeta)
+void Repite(const Objetivo& objetivo, const std::vector<fs::path>& ficheros)
 {
-    ASSERT_TRUE(fs::is_directory(carpeta)) << carpeta;
-    const auto ficheros = Ficheros(carpeta);
-    EXPECT_FALSE(ficheros.empty()) << carpeta;
     for (const fs::path& fichero : ficheros) {
         const std::string octetos = veldix::LeeOctetos(fichero.string());
         try {
@@ -52,13 +49,15 @@ class Replay : public testing::TestWithParam<Objetivo> {};
 
 TEST_P(Replay, SeedsHold)
 {
-    Repite(GetParam(), fs::path(VELDIX_SOURCE) / "fuzz/seeds" / GetParam().nombre);
+    const auto semillas = Ficheros(fs::path(VELDIX_SOURCE) / "fuzz/seeds" / GetParam().nombre);
+    EXPECT_FALSE(semillas.empty());
+    Repite(GetParam(), semillas);
 }
 
 TEST_P(Replay, OldFindingsHold)
 {
     const fs::path carpeta = fs::path(VELDIX_SOURCE) / "fuzz/found" / GetParam().nombre;
-    if (fs::exists(carpeta)) Repite(GetParam(), carpeta);
+    if (fs::exists(carpeta)) Repite(GetParam(), Ficheros(carpeta));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Replay, testing::ValuesIn(kObjetivos),

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <limits>
 
-#include "platform/enteros.h"
 #include "platform/texto.h"
 
 namespace veldix {
@@ -19,6 +18,13 @@ float OCero(double v)
 {
     const auto f = static_cast<float>(v);
     return std::isfinite(f) ? f : 0.0F;
+}
+
+/// The quotient rounded to float32; `razon` stays for a zero divisor or a quotient beyond float32.
+void Cociente(float& razon, float dividendo, float divisor)
+{
+    const auto q = static_cast<float>(divisor == 0.0F ? NAN : static_cast<double>(dividendo) / divisor);
+    if (std::isfinite(q)) razon = q;
 }
 
 double Mayor(const std::vector<float>& v)
@@ -57,8 +63,8 @@ EscalaCanales::Lados EscalaCanales::Pasada(const RecordStore& s, float& prim, fl
     Lados r;
     for (int c = 1; c <= n_; ++c) {
         const FilaRelacion& relacion = s.Relacion(c);
-        Intenta([&] { prim = Single(Divide(relacion.Primario, relacion.Secundario)); });
-        Intenta([&] { sec = Single(Divide(relacion.Secundario, relacion.Primario)); });
+        Cociente(prim, relacion.Primario, relacion.Secundario);
+        Cociente(sec, relacion.Secundario, relacion.Primario);
         const bool esPrimario = Mayusculas(Recorta(relacion.Lado)) == "P";
         r.prim.push_back(esPrimario ? 1.0F : prim);
         r.sec.push_back(esPrimario ? sec : 1.0F);

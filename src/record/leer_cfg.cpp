@@ -159,9 +159,7 @@ void Sube(std::string& numero)
 
 bool EsCero(const std::string& numero)
 {
-    bool cero = false;
-    Intenta([&] { cero = NumeroLocal(numero) == 0.0; });
-    return cero;
+    return CampoSingle(numero, SeparadoresSistema()) == 0.0F;
 }
 
 /// One analog line. `desdeCero` stays raised from the line where channel 1 turns out to be numbered 0.

@@ -69,7 +69,6 @@ Vista::Vista(int etiqueta) : Formulario(nullptr), etiqueta_(etiqueta)
 
 QWidget* Vista::Marco()
 {
-    if (!ventana_) return nullptr;
     if (!escena.area) return ventana_;
     // Out of the area at once; the view that was active before it takes its place and the focus.
     escena.area->removeSubWindow(ventana_);
@@ -84,7 +83,7 @@ QWidget* Vista::Marco()
 
 bool Vista::eventFilter(QObject* objeto, QEvent* evento)
 {
-    if (objeto != ventana_ || Descargado()) return Formulario::eventFilter(objeto, evento);
+    if (Descargado() || objeto != ventana_) return Formulario::eventFilter(objeto, evento);
     if (evento->type() == QEvent::WindowStateChange && ventana_->isMinimized() && !minimizada_) {
         minimizada_ = true;
         Atrapa(this, [this] { Form_Minimiza(); });

@@ -76,8 +76,8 @@ protected:
 
 private:
     int etiqueta_;
-    QPointer<QMdiSubWindow> ventana_;
-    QSize tamano_;  ///< that the view knows of
+    QMdiSubWindow* ventana_;  ///< owns the view
+    QSize tamano_;            ///< that the view knows of
     bool minimizada_ = false;
 };
 
