@@ -12,6 +12,7 @@
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "shell/ajustes.h"
+#include "shell/rutas.h"
 
 namespace veldix {
 
@@ -108,7 +109,7 @@ Linea ParteArgumentos(const std::vector<std::string>& args)
 void CargaEntorno(const std::string& rutaPrograma, bool espanol)
 {
     store.RutaPrograma = rutaPrograma;
-    store.DirIni = rutaPrograma.substr(0, rutaPrograma.size() < 3 ? 0 : rutaPrograma.size() - 3) + "ini";
+    store.DirIni = RutaIni(rutaPrograma);
     CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));
     EligeFicheroIdioma(store, espanol);
     Intenta([] { CargaTextos(store.FicheroIdioma); });

@@ -13,4 +13,9 @@ std::string RutaIconos(const std::string& rutaPrograma, const std::string& fiche
     return BuscaSinCaja(UneRuta(carpeta, fichero));
 }
 
+std::string RutaIni(const std::string& rutaPrograma)
+{
+    return std::string(SinFinal(rutaPrograma, 3)) + "ini";
+}
+
 }  // namespace veldix

@@ -9,4 +9,7 @@ namespace veldix {
 /// folder has no "EXE".
 std::string RutaIconos(const std::string& rutaPrograma, const std::string& fichero);
 
+/// The settings folder of a program: its path less its last three characters, with "ini" added.
+std::string RutaIni(const std::string& rutaPrograma);
+
 }  // namespace veldix

@@ -25,6 +25,7 @@
 #include "shell/forms/gasolino_ondas.h"
 #include "shell/forms/traductor.h"
 #include "shell/linea_ordenes.h"
+#include "shell/rutas.h"
 #include "templates/plantilla.h"
 #include "waves/forms/frmVerOndas.h"
 
@@ -153,8 +154,7 @@ void MDIForm1::MDIForm_Load()
         store.AnchoPantalla = ATwips(libre.width());
         resize(libre.size());
         move(libre.topLeft());
-        const std::string& programa = store.RutaPrograma;
-        store.DirIni = programa.substr(0, programa.size() < 3 ? 0 : programa.size() - 3) + "ini";
+        store.DirIni = RutaIni(store.RutaPrograma);
         CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));
         setCursor(Qt::WaitCursor);
         store.RegistroAbierto = false;
