@@ -14,5 +14,5 @@ instala_paquetes() {
 }
 
 PAQUETES_CONSTRUIR=(g++ cmake ninja-build ccache qt6-base-dev)
-PAQUETES_EJECUTAR=(libqt6widgets6 qt6-qpa-plugins libxcb-cursor0 fonts-dejavu-core qttranslations6-l10n)
+PAQUETES_EJECUTAR=(libqt6widgets6 qt6-qpa-plugins libxcb-cursor0 fonts-dejavu-core qt6-translations-l10n)
 PAQUETES_PROBAR=(libgtest-dev libbenchmark-dev locales)
