@@ -118,8 +118,13 @@ std::string DesdePagina(std::string_view octetos)
 {
     std::string r;
     r.reserve(octetos.size() + octetos.size() / 8);
-    for (const char c : octetos)
-        r += Actual().aUtf8[static_cast<unsigned char>(c)];
+    for (const char c : octetos) {
+        const auto octeto = static_cast<unsigned char>(c);
+        if (octeto < 0x80)
+            r += c;
+        else
+            r += Actual().aUtf8[octeto];
+    }
     return r;
 }
 
@@ -129,6 +134,12 @@ std::string APagina(std::string_view texto, bool* entero)
     r.reserve(texto.size());
     if (entero) *entero = true;
     while (!texto.empty()) {
+        // Pages share the ASCII half.
+        if (static_cast<unsigned char>(texto[0]) < 0x80) {
+            r += texto[0];
+            texto.remove_prefix(1);
+            continue;
+        }
         const std::size_t n = OctetosDeCaracter(texto);
         const auto sitio = Actual().desdeUtf8.find(std::string(texto.substr(0, n)));
         const bool hay = sitio != Actual().desdeUtf8.end();
