@@ -69,7 +69,19 @@ private:
     /// The next line into `destino`, which keeps what it had behind the end of the file.
     void Avanza(std::string& destino)
     {
-        if (!lineas_.Fin()) destino = lineas_.Lee();
+        if (!lineas_.Fin())
+            destino = lineas_.Lee();
+        else if (&destino == &linea_)
+            Repite();
+    }
+
+    /// Rows behind the end of the file repeat the last line. A short file that declares thousands of rows and
+    /// ends in a long line would so fill the memory: beyond a limit there is nothing to repeat.
+    void Repite()
+    {
+        constexpr std::size_t kMayorRepetido = std::size_t{4} << 20;
+        repetido_ += linea_.size();
+        if (repetido_ > kMayorRepetido) linea_.clear();
     }
 
     /// The count on the current line; a text that is no number leaves it.
@@ -193,6 +205,7 @@ private:
     RecordStore& s_;
     LectorLineas lineas_;
     std::string linea_;
+    std::size_t repetido_ = 0;  ///< octets repeated behind the end of the file
 };
 
 }  // namespace
