@@ -1,88 +1,48 @@
 #include "shell/medidor.h"
 
-#include <gtest/gtest.h>
-
-#include "platform/errores.h"
+#include "support/soporte.h"
 
 namespace veldix {
 namespace {
 
-struct Llamada {
-    bool relativo;
-    std::int16_t valor;
-    std::int16_t posicion;       // afterwards
-    std::string rotulo;          // of every step
-    std::vector<double> anchos;  // on a track of 1000
-};
-
-void Comprueba(const std::vector<Llamada>& llamadas)
+/// The position, and what a call draws on a track of 1000: "r" for a reset, else captions and widths.
+std::string Llena(Medidor& m, bool relativo, std::int16_t valor)
 {
-    Medidor m;
-    for (std::size_t i = 0; i < llamadas.size(); ++i) {
-        SCOPED_TRACE("call " + std::to_string(i));
-        const Llamada& c = llamadas[i];
-        const DibujoMedidor d = m.Llena(c.relativo, c.valor, 1000);
-        EXPECT_EQ(m.Posicion, c.posicion);
-        EXPECT_EQ(d.reinicia, c.valor == 0);
-        std::vector<double> anchos;
-        for (const auto& paso : d.pasos) {
-            EXPECT_EQ(paso.rotulo, c.rotulo);
-            anchos.push_back(paso.ancho);
-        }
-        EXPECT_EQ(anchos, c.anchos);
-    }
+    const DibujoMedidor d = m.Llena(relativo, valor, 1000);
+    std::string texto = std::to_string(m.Posicion) + (d.reinicia ? " r" : "");
+    for (const auto& paso : d.pasos)
+        texto += " " + paso.rotulo + std::to_string(static_cast<int>(paso.ancho));
+    return texto;
 }
 
 TEST(Medidor, LasLlamadasSeguidasDibujanSusPasos)
 {
-    struct Caso {
-        const char* nombre;
-        std::vector<Llamada> llamadas;
+    constexpr bool kRelativo = true, kAbsoluto = false;
+    const struct {
+        bool modo;
+        std::int16_t valor;
+        const char* dibujo;
+    } llamadas[] = {
+        {kAbsoluto, 0, "0 r"},
+        {kRelativo, 3, "3 3 %0 3 %10 3 %20 3 %30"},
+        {kRelativo, 1, "4 4 %30 4 %40"},
+        {kAbsoluto, 40, "40 40 %400"},
+        {kAbsoluto, 20, "20 20 %200"},
+        {kRelativo, -10, "10"},
+        {kRelativo, 0, "0 r"},
+        {kAbsoluto, 98, "98 98 %980"},
+        {kRelativo, 3, "98"},
+        {kRelativo, 2, "100 100 %980 100 %990 100 %1000"},
+        {kAbsoluto, 150, "150"},
+        {kRelativo, -60, "90"},
+        {kAbsoluto, -1, "-1 -1 %-10"},
+        {kRelativo, 2, "1 1 %-10 1 %0 1 %10"},
+        {kAbsoluto, 32767, "32767"},
     };
-    const std::vector<Caso> casos{
-        {"an opening",
-         {{false, 0, 0, "", {}},
-          {true, 5, 5, "5 %", {0, 10, 20, 30, 40, 50}},
-          {true, 1, 6, "6 %", {50, 60}}}},
-        {"absolute draws its end alone", {{false, 40, 40, "40 %", {400}}, {false, 20, 20, "20 %", {200}}}},
-        {"zero resets in both modes",
-         {{false, 40, 40, "40 %", {400}},
-          {true, 0, 0, "", {}},
-          {false, 40, 40, "40 %", {400}},
-          {false, 0, 0, "", {}},
-          {true, 1, 1, "1 %", {0, 10}}}},
-        {"relative past 100",
-         {{false, 98, 98, "98 %", {980}},
-          {true, 3, 98, "", {}},
-          {true, 2, 100, "100 %", {980, 990, 1000}},
-          {true, 1, 100, "", {}}}},
-        {"absolute above 100",
-         {{false, 150, 150, "", {}},
-          {true, 1, 150, "", {}},
-          {true, -60, 90, "", {}},
-          {true, 1, 91, "91 %", {900, 910}}}},
-        {"negative",
-         {{false, 30, 30, "30 %", {300}},
-          {true, -10, 20, "", {}},
-          {false, -1, -1, "-1 %", {-10}},
-          {true, 2, 1, "1 %", {-10, 0, 10}}}},
-    };
-    for (const Caso& caso : casos) {
-        SCOPED_TRACE(caso.nombre);
-        Comprueba(caso.llamadas);
-    }
-}
-
-TEST(Medidor, ElDestinoSaleDeDieciseisBits)
-{
     Medidor m;
-    m.Llena(false, 32767, 1000);
-    try {
-        m.Llena(true, 1, 1000);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero, error::kDesbordamiento);
-    }
+    for (const auto& l : llamadas)
+        EXPECT_EQ(Llena(m, l.modo, l.valor), l.dibujo) << l.modo << ' ' << l.valor;
+    EXPECT_EQ(prueba::NumeroDeError([&] { m.Llena(true, 1, 1000); }), 6);
 }
 
 }  // namespace

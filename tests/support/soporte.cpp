@@ -44,6 +44,14 @@ std::string LeeTodo(const std::string& ruta)
     return {std::istreambuf_iterator<char>(f), {}};
 }
 
+std::string ConFinales(std::string_view lineas, std::string_view fin)
+{
+    std::string texto;
+    for (const char c : lineas)
+        texto += c == '|' ? fin : std::string_view(&c, 1);
+    return texto.append(fin);
+}
+
 RespondeCajas::RespondeCajas()
 {
     PonCajas([this](const Caja& caja) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/avisos.h"
+#include "platform/errores.h"
 #include "platform/numeros.h"
 
 namespace veldix::prueba {
@@ -30,6 +31,21 @@ private:
 };
 
 std::string LeeTodo(const std::string& ruta);
+
+/// The lines that stand between "|", each with its end.
+std::string ConFinales(std::string_view lineas, std::string_view fin = "\r\n");
+
+/// The number of the error that `f` raises, 0 where it raises none.
+template <class F>
+int NumeroDeError(F&& f)
+{
+    try {
+        f();
+    } catch (const ErrorEjecucion& e) {
+        return e.numero;
+    }
+    return 0;
+}
 
 /// Answers the message boxes of a test from a queue and logs them. A box that was not expected fails the
 /// test, and so does one that never came.
