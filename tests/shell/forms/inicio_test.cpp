@@ -152,7 +152,7 @@ TEST_F(Inicio, ExitKeyAnswersInTheWrongLanguageOrShiftState)
     Arranca(c.Ruta("d/rec.dat"));
     frmNewOndas& selector = frmNewOndas::unica.CargaNueva();
     selector.show();
-    QMessageBox caja(QMessageBox::Critical, "VELDIX", "aviso", QMessageBox::Ok, principal.get());
+    QMessageBox caja(QMessageBox::Critical, "VELDIX", "aviso", QMessageBox::Ok, &selector);
     enum { kForm, kPrincipal, kCaja };
     const struct {
         const char* donde;
