@@ -25,7 +25,7 @@ run_one() {
     dict=
     [ -f "fuzz/$t.dict" ] && dict="-dict=fuzz/$t.dict"
     mkdir -p "build/fuzz/corpus/$t" "fuzz/found/$t"
-    "build/fuzz/fuzz/fuzz_$t" -max_total_time="$seconds" -max_len=$max -rss_limit_mb=4096 -timeout=10 \
+    "build/fuzz/fuzz/fuzz_$t" -max_total_time="$seconds" -max_len=$max -rss_limit_mb=4096 -timeout=25 \
         $dict -artifact_prefix="fuzz/found/$t/" -print_final_stats=1 \
         "build/fuzz/corpus/$t" "fuzz/seeds/$t" >"build/fuzz/$t.log" 2>&1 || true
     rmdir "fuzz/found/$t" 2>/dev/null && result=clean || result="FINDINGS in fuzz/found/$t"
