@@ -143,7 +143,10 @@ MedidasOnda frmVerOndas::Medidas() const
 void frmVerOndas::ColocaControles()
 {
     const auto lugares = ColocaOnda(AnchoVentana(), AltoVentana(), qAbs(store.NumVentanasOnda), Medidas());
-    if (lugares) Pon(picbox, lugares->picbox);
+    if (lugares) {
+        const QSignalBlocker calla(picbox);  // it is drawn again below, with the margin of the new size
+        Pon(picbox, lugares->picbox);
+    }
     zoom_.Reinicia(static_cast<float>(picbox->Ancho()), static_cast<float>(picbox->Alto()), ultima_);
     tramo_.reset();
     PonBarras(1, 1, ultima_);
