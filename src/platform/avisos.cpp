@@ -3,6 +3,9 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/texto.h"
+#include "platform/textos.h"
+
 namespace veldix {
 
 namespace {
@@ -31,6 +34,15 @@ void Avisa(const std::string& texto, Icono icono)
 bool Pregunta(const std::string& texto, Icono icono)
 {
     return g_cajas({texto, icono, Botones::AceptarCancelar});
+}
+
+void AvisaSeparadores(const std::string& texto)
+{
+    for (const auto& [patron, aviso] : {std::pair{"*%*", 176}, std::pair{"*$*", 177}}) {
+        if (!Coincide(texto, patron)) continue;
+        PunteroNormal();
+        Avisa(Textos(aviso), Icono::Critico);
+    }
 }
 
 void AvisaError(const ErrorEjecucion& e)

@@ -31,6 +31,10 @@ bool Pregunta(const std::string& texto, Icono icono = Icono::Pregunta);
 /// The common error box: critical, "Error ", number, ": ", description.
 void AvisaError(const ErrorEjecucion& e);
 
+/// Warns of the characters that a template's lines cannot carry in a name: "%", then "$", a critical box
+/// each.
+void AvisaSeparadores(const std::string& texto);
+
 /// Sets the pointers of all windows and forms back to the default (a plot keeps that of an armed zoom); the
 /// windows fill it at start. Readers call it before a message.
 void PonPunteroNormal(std::function<void()> pon);

@@ -16,13 +16,26 @@ Ranuras::Ranura& Ranuras::Sitio(int k)
     return const_cast<Ranura&>((*this)(k));
 }
 
+bool Ranuras::Esta(const std::string& texto, int numero) const
+{
+    const bool porTexto = regla_ == Repetida::HastaPorTexto;
+    const int ultima = porTexto ? activa_ : activa_ - 1;
+    for (int k = 1; k <= ultima; ++k)
+        if (const Ranura& r = (*this)(k); r.texto == texto && (porTexto || Val(r.numero) == numero))
+            return true;
+    return false;
+}
+
+void Ranuras::Llena(int k, const std::string& texto, int numero)
+{
+    Sitio(k) = {texto, FormaDelimitada(numero)};
+}
+
 Ranuras::Puesta Ranuras::Pon(const std::string& texto, int numero)
 {
     if (activa_ > Cuantas()) return Puesta::Llena;
-    for (int k = 1; k < activa_; ++k)
-        if (const Ranura& r = (*this)(k); r.texto == texto && Val(r.numero) == numero)
-            return Puesta::Repetida;
-    Sitio(activa_) = {texto, FormaDelimitada(numero)};
+    if (Esta(texto, numero)) return Puesta::Repetida;
+    Llena(activa_, texto, numero);
     if (activa_ < Cuantas()) ++activa_;
     return Puesta::Hecha;
 }

@@ -14,7 +14,15 @@ public:
         std::string numero;  ///< its number, a text
     };
 
-    explicit Ranuras(int cuantas) : ranuras_(static_cast<std::size_t>(cuantas)) {}
+    /// Where a channel counts as standing already.
+    enum class Repetida {
+        AntesPorNumero,  ///< same text and number in a slot before the marker
+        HastaPorTexto,   ///< same text in a slot before the marker or in its own
+    };
+    explicit Ranuras(int cuantas, Repetida regla = Repetida::AntesPorNumero)
+        : ranuras_(static_cast<std::size_t>(cuantas)), regla_(regla)
+    {
+    }
 
     int Cuantas() const { return static_cast<int>(ranuras_.size()); }
     int Activa() const { return activa_; }
@@ -23,8 +31,11 @@ public:
 
     enum class Puesta { Hecha, Repetida, Llena };
     /// Puts a channel into the active slot, which may overwrite it, and moves the marker on, except behind
-    /// the last slot. A channel that stands in a slot before the marker is ignored.
+    /// the last slot. A channel that stands already is ignored.
     Puesta Pon(const std::string& texto, int numero);
+
+    /// Fills slot `k` and leaves the marker. Raises 9.
+    void Llena(int k, const std::string& texto, int numero);
 
     /// Moves the marker. Raises 9.
     void Marca(int k);
@@ -33,8 +44,10 @@ public:
 
 private:
     Ranura& Sitio(int k);
+    bool Esta(const std::string& texto, int numero) const;
 
     std::vector<Ranura> ranuras_;
+    Repetida regla_;
     int activa_ = 1;
 };
 

@@ -158,10 +158,28 @@ struct GrupoBanderas {
     bool PlantillaNoValida = false;  ///< the template read does not fit the record
     bool PlantillaModifica = false;
     bool PlantillaNueva = false;
+    std::string EstacionAnterior;  ///< station when a template was taken for a modification
+    bool VuelveAnalog = false;     ///< the analog page was left backwards
+    bool VueltaDigital = false;    ///< the digital page's tables are to be kept when they grow
+    bool HechoTrifasic = false;    ///< the three-phase page was left backwards once
     bool EnPrimario = false, EnSecundario = false;  ///< what `Muestras` now holds; never both
     bool DFTHecha = false;
     bool ErrorFormato = false;
     bool CancelaImpresion = false;
+};
+
+/// Running phasors of the record and what the analysis views plot of them.
+struct GrupoFasores {
+    std::int16_t NumMuestrasDFT = 0;  ///< samples of the record
+    std::int16_t NumFilasDFT = 0;     ///< five cycles of padding and the samples
+    std::uint8_t NumCanalesDFT = 0;
+    Tabla2<float> FasoresDFT;  ///< (row, 2c - 1) sine sum and (row, 2c) cosine sum of channel c, RMS
+    Tabla2<float> Secuencias;  ///< rows of FasoresDFT, six columns a ticked group
+
+    /// Ticked groups, 0 to NumTrifasic: element 0 counts them, element g is 1 where g is ticked.
+    Tabla1<std::int16_t> GruposFases, GruposSecuencias;
+    std::int16_t ModoFasecuencia = 0;                        ///< 1 one analysis view was opened, 2 both
+    bool FasesCerrando = false, SecuenciasCerrando = false;  ///< of both, the one that has gone
 };
 
 /// Bookkeeping of the views.
@@ -170,7 +188,6 @@ struct GrupoVistas {
     Tabla1<std::int16_t> OndaCanal;    ///< 1 where a slot is to be shown
     std::int16_t NumVentanasOnda = 0;
     std::int16_t NumVentanasComp = 0;
-    std::int16_t ModoFasecuencia = 0;
     std::array<std::uint8_t, 15> Colores{};  ///< colour order of curves, from 0
     Tabla1<float> MinCanal, MaxCanal;        ///< last result of TablaMinMax
     float FactorZoomY = 0.0F;                ///< shared by all individual wave windows
@@ -184,6 +201,7 @@ struct RecordStore : GrupoEntorno,
                      GrupoTrabajo,
                      GrupoPlantilla,
                      GrupoBanderas,
+                     GrupoFasores,
                      GrupoVistas {};
 
 /// The program's single instance. Readers fill the store that they are given.

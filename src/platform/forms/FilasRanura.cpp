@@ -24,16 +24,16 @@ void Pinta(QLabel* punto, bool activa)
 
 }  // namespace
 
-FilasRanura::FilasRanura(int cuantas, QWidget* padre) : QWidget(padre)
+FilasRanura::FilasRanura(int cuantas, QWidget* padre, const QString& juego) : QWidget(padre)
 {
     auto* rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
     rejilla->setColumnStretch(1, 1);
     for (int k = 1; k <= cuantas; ++k) {
         Fila f{new QLabel(this), new QLineEdit(this), new QLabel(this)};
-        f.lblpunt->setObjectName(QString("lblpunt%1").arg(k));
-        f.grp->setObjectName(QString("grp%1").arg(k));
-        f.lbl->setObjectName(QString("lbl%1").arg(k));
+        f.lblpunt->setObjectName(QString("lblpunt%1%2").arg(juego).arg(k));
+        f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
+        f.lbl->setObjectName(QString("lbl%1%2").arg(juego).arg(k));
         f.lblpunt->setFixedSize(kLadoPunto, kLadoPunto);
         f.lblpunt->setFrameShape(QFrame::Box);
         f.lblpunt->setAutoFillBackground(true);
@@ -63,6 +63,12 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
         f.grp->setText(Q(ranuras(k).texto));
         f.grp->setCursorPosition(0);
     }
+}
+
+void FilasRanura::Desmarca()
+{
+    for (const Fila& f : filas_)
+        Pinta(f.lblpunt, false);
 }
 
 bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)

@@ -11,16 +11,19 @@
 namespace veldix {
 
 /// The rows of a set of slots: a marker `lblpunt`, the channel's name `grp`, its number `lbl`, each with its
-/// slot's number behind its name. It shows what it is told and reports the mouse; on a name the space bar is
-/// a click, the delete keys are a double click.
+/// slot's number behind its name; of several sets in a form each has its own number before that. It shows
+/// what it is told and reports the mouse; on a name the space bar is a click, the delete keys are a double
+/// click.
 class FilasRanura : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FilasRanura(int cuantas, QWidget* padre = nullptr);
+    explicit FilasRanura(int cuantas, QWidget* padre = nullptr, const QString& juego = {});
 
     /// Shows the slots' texts and the marker, in colour 14 of the palette on the active slot, 15 elsewhere.
     void Muestra(const Ranuras& ranuras);
+    /// Takes the marker's colour off all slots, until the next Muestra.
+    void Desmarca();
 
 Q_SIGNALS:
     void Click(int k);     ///< on a marker or a name

@@ -69,6 +69,26 @@ public:
     }
 };
 
+/// Tells forms that the user came to them from elsewhere in the program.
+class FiltroActivacion : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* receptor, QEvent* evento) override
+    {
+        if (evento->type() != QEvent::WindowActivate) return false;
+        auto* ventana = qobject_cast<QWidget*>(receptor);
+        auto* form = qobject_cast<Formulario*>(receptor);
+        if (!ventana || !ventana->isWindow() || (!form && ventana != escena.principal)) return false;
+        if (ventana == ultima_) return false;
+        ultima_ = ventana;
+        if (form && !form->Descargado()) Atrapa(nullptr, [form] { form->Form_Activate(); });
+        return false;
+    }
+
+private:
+    QPointer<QWidget> ultima_;
+};
+
 void TodosNormales()
 {
     const auto ventanas = QApplication::topLevelWidgets();
@@ -90,6 +110,16 @@ void MuestraMenu()
 void OcultaMenu()
 {
     if (escena.ocultaMenu) escena.ocultaMenu();
+}
+
+void LeeDirectoriosAjustes()
+{
+    if (escena.leeDirectorios) escena.leeDirectorios();
+}
+
+void ActivaOrdenesPlantilla()
+{
+    if (escena.activaPlantilla) escena.activaPlantilla();
 }
 
 void MuestraGasolinoOndas(const QString& titulo)
@@ -142,6 +172,7 @@ PunteroEspera::~PunteroEspera()
 void InstalaEscena()
 {
     qApp->installEventFilter(new FiltroTeclas(qApp));
+    qApp->installEventFilter(new FiltroActivacion(qApp));
     PonCajas(MuestraCajaQt);
     PonPunteroNormal(TodosNormales);
 }

@@ -17,6 +17,8 @@ struct Escena {
     QMdiArea* area = nullptr;           ///< where the views stand
     std::function<void()> muestraMenu;  ///< makes the menu visible and maximised
     std::function<void()> ocultaMenu;
+    std::function<void()> leeDirectorios;   ///< takes the default folders from the settings; shows its error
+    std::function<void()> activaPlantilla;  ///< the menu commands that need a template in force
     std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir;  ///< true where it took the key
     /// The gauge of the wave and digital views: shows it with a caption, steps it, unloads it.
     std::function<void(const QString&)> muestraGasolinoOndas;
@@ -27,6 +29,8 @@ extern Escena escena;
 
 void MuestraMenu();
 void OcultaMenu();
+void LeeDirectoriosAjustes();
+void ActivaOrdenesPlantilla();
 void MuestraGasolinoOndas(const QString& titulo);
 void PonGasolinoOndas(int valor);
 void DescargaGasolinoOndas();

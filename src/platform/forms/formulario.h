@@ -34,6 +34,10 @@ public:
     /// to bring the menu back does it here.
     virtual void TrasError() {}
 
+    /// The form was shown, or the user came to it from another form of the program; not from a message box
+    /// or from another program.
+    virtual void Form_Activate() {}
+
 protected:
     /// The form's own closing steps.
     virtual void Form_Unload() {}
@@ -133,6 +137,13 @@ public:
         Descarga();
         form_ = new Form(std::forward<Args>(args)...);
         return *form_;
+    }
+    /// The same, and shows it unless it unloaded itself.
+    template <class... Args>
+    void Muestra(Args&&... args)
+    {
+        CargaNueva(std::forward<Args>(args)...);
+        if (Form* f = Cargado()) f->show();
     }
 
 private:

@@ -122,6 +122,10 @@ void MDIForm1::LlenaGanchos()
     escena.ocultaMenu = [] {
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->Ventana().hide();
     };
+    escena.leeDirectorios = [] { Atrapa(nullptr, [] { LeeDirectorios(store); }); };
+    escena.activaPlantilla = [] {
+        if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
+    };
     escena.teclaSalir = [this](int tecla, Qt::KeyboardModifiers estado) { return TeclaSalir(tecla, estado); };
     escena.muestraGasolinoOndas = [](const QString& titulo) { gasolino_ondas::unica.CargaNueva(titulo); };
     escena.ponGasolinoOndas = [](int valor) {

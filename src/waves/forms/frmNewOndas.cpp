@@ -118,9 +118,7 @@ void frmNewOndas::grp_DblClick(int k)
 
 void frmNewOndas::grp_Change(int k)
 {
-    const std::string& texto = ranuras_(k).texto;
-    if (Coincide(texto, "*%*")) Avisa(Textos(176), Icono::Critico);
-    if (Coincide(texto, "*$*")) Avisa(Textos(177), Icono::Critico);
+    AvisaSeparadores(ranuras_(k).texto);
 }
 
 /// Marks the channels of the slots in `OndaCanal` and counts the slots. Raises 9 for a channel that the
