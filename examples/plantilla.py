@@ -17,7 +17,7 @@ NOMBRES_ANALOGICOS = (
     "Intensidad residual 3I0",
 )
 
-TRIFASICOS = ((1, 2, 3, "Tensión en barras", "1"), (5, 6, 7, "Intensidad de línea", "1"))
+TRIFASICOS = ((1, 2, 3, "Tensión en barras", "20"), (5, 6, 7, "Intensidad de línea", "1"))
 
 GRUPOS_DIGITALES = (
     (

@@ -11,6 +11,13 @@ struct Pantalla {
     double twipsPorPixel = 15.0;
 };
 
+/// A rectangle in twips.
+struct Lugar {
+    double izquierda = 0.0, arriba = 0.0, ancho = 0.0, alto = 0.0;
+    double Derecha() const { return izquierda + ancho; }
+    double Abajo() const { return arriba + alto; }
+};
+
 /// Usable width of a view, in twips.
 float AnchoVista(const Pantalla& p);
 

@@ -7,13 +7,6 @@
 
 namespace veldix {
 
-/// A rectangle in twips.
-struct Lugar {
-    double izquierda = 0.0, arriba = 0.0, ancho = 0.0, alto = 0.0;
-    double Derecha() const { return izquierda + ancho; }
-    double Abajo() const { return arriba + alto; }
-};
-
 /// Height of a wave window that is not the plot's: frame, bars and labels. Twips.
 inline constexpr double kBajoPlot = 1100.0;
 /// The gap between the controls of a wave window, twips.

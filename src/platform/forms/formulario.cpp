@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QStyle>
 
 #include "platform/forms/escena.h"
 #include "platform/pantalla.h"
@@ -46,7 +47,8 @@ void Formulario::keyPressEvent(QKeyEvent* evento)
     const bool enter = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
     QAbstractButton* boton = nullptr;
     if (enter) {
-        auto* conFoco = qobject_cast<QAbstractButton*>(focusWidget());
+        // A ticked box or an option is not pressed by Enter: the space bar is theirs.
+        auto* conFoco = qobject_cast<QPushButton*>(focusWidget());
         boton = conFoco ? conFoco : porDefecto_.data();
     } else if (evento->key() == Qt::Key_Escape) {
         boton = cancela_;
@@ -110,6 +112,14 @@ double Vista::AnchoVentana() const
 double Vista::AltoVentana() const
 {
     return ATwips(ventana_->height());
+}
+
+QSize Vista::Interior() const
+{
+    if (ventana_->isVisible()) return size();
+    const int marco = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const int titulo = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return (ventana_->size() - QSize(2 * marco, marco + qMax(marco, titulo))).expandedTo(QSize(0, 0));
 }
 
 Formulario* FormularioDe(QWidget* widget)

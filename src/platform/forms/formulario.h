@@ -70,6 +70,8 @@ public:
     void Coloca(double izquierda, double arriba, double ancho, double alto);
     double AnchoVentana() const;
     double AltoVentana() const;
+    /// Size inside the frame, pixels; reckoned from the frame's while that has never been shown.
+    QSize Interior() const;
 
 protected:
     QWidget* Marco() override;

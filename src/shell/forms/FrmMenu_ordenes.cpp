@@ -1,4 +1,5 @@
-#include "platform/enteros.h"
+#include "analysis/forms/frmFasecuencias.h"
+#include "analysis/modDFT.h"
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/programas.h"
@@ -21,6 +22,13 @@ constexpr std::size_t kMayorPerfil = 149;  // characters of the converter's comm
 bool VersionVieja()
 {
     return LeerVersionPlantilla(store) == "ver 1.0";
+}
+
+/// They list channels and groups of the record before.
+void DescargaSelectores()
+{
+    frmNewOndas::unica.Descarga();
+    frmFasecuencias::unica.Descarga();
 }
 
 }  // namespace
@@ -48,14 +56,14 @@ void FrmMenu::ConectaMenus()
 
 void FrmMenu::mnuAbrirComtrade_Click()
 {
-    frmNewOndas::unica.Descarga();  // it lists the channels of the record before
+    DescargaSelectores();
     frmAbrirComtrade().Carga();
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
 
 void FrmMenu::mnuCerrarComtrade_Click()
 {
-    frmNewOndas::unica.Descarga();
+    DescargaSelectores();
     CierraRegistro(store);
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
@@ -142,7 +150,7 @@ void FrmMenu::mnuFasores_Click()
         Avisa(Textos(91), Icono::Critico);
         return;
     }
-    if (Entero16(Divide(MuestrasPorSegundo(store), store.FrecLinea)) == 0) {
+    if (MuestrasCiclo(store) == 0) {
         Avisa(Textos(283), Icono::Informacion);
         return;
     }
@@ -150,7 +158,17 @@ void FrmMenu::mnuFasores_Click()
         Avisa(Textos(246), Icono::Critico);
         return;
     }
-    if (VersionVieja()) Avisa(Textos(172), Icono::Critico);
+    if (VersionVieja()) {
+        Avisa(Textos(172), Icono::Critico);
+        return;
+    }
+    PonPunteros(this, Puntero::Espera);
+    if (!store.DFTHecha) {
+        CalculaDFT(store);
+        store.DFTHecha = true;  // also after a failure, which is told once
+    }
+    PonPunteros(this, Puntero::Normal);
+    frmFasecuencias::unica.Muestra();
 }
 
 void FrmMenu::mnuInform_Click()

@@ -9,6 +9,8 @@
 #include <QTime>
 #include <QVBoxLayout>
 
+#include "analysis/forms/frmFases.h"
+#include "analysis/forms/frmSecuencias.h"
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/formulario.h"
@@ -308,11 +310,27 @@ void MDIForm1::CierraVista(Vista* vista)
         return;
     }
     if (que < etiqueta::kFases || que > etiqueta::kGrid) return;
-    if (que == etiqueta::kVerOndas)
-        CierraOndas();
-    else
-        vista->Descarga();
+    switch (que) {
+        case etiqueta::kVerOndas:
+            CierraOndas();
+            break;
+        case etiqueta::kFases:
+        case etiqueta::kSecuencias:
+            CierraFasores(*vista);
+            break;
+        default:
+            vista->Descarga();
+    }
     veldix::MuestraMenu();
+}
+
+/// The view, and the other one too where both were opened.
+void MDIForm1::CierraFasores(Vista& vista)
+{
+    vista.Descarga();
+    if (store.ModoFasecuencia != 2) return;
+    frmFases::unica.Descarga();
+    frmSecuencias::unica.Descarga();
 }
 
 void MDIForm1::CierraOndas()

@@ -68,6 +68,7 @@ private:
     void cmdSalir_Click();
     Vista* VistaActiva() const;
     void CierraVista(Vista* vista);
+    void CierraFasores(Vista& vista);
     void CierraOndas();
 
     QMdiArea* area_;

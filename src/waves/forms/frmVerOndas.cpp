@@ -5,43 +5,12 @@
 #include <QStyleOptionTitleBar>
 
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/forms/iconos.h"
 #include "platform/textos.h"
 #include "waves/colores.h"
 
 namespace veldix {
-
-namespace {
-
-QLabel* CreaEtiqueta(QWidget* padre, const char* nombre)
-{
-    auto* l = new QLabel(padre);
-    l->setObjectName(nombre);
-    l->setTextFormat(Qt::PlainText);
-    return l;
-}
-
-/// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
-/// They do not widen again before the next layout, so that they stand still while a cursor moves.
-void PonTexto(QLabel* etiqueta, const QString& texto)
-{
-    constexpr int kMenorAncho = 60;  // percent
-    QFont letra = etiqueta->font();
-    const int pide = QFontMetrics(letra).horizontalAdvance(texto);
-    if (pide > etiqueta->width() && etiqueta->width() > 0) {
-        const int ahora = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
-        letra.setStretch(qMax(kMenorAncho, ahora * etiqueta->width() / pide));
-        etiqueta->setFont(letra);
-    }
-    etiqueta->setText(texto);
-}
-
-void Pon(QWidget* w, const Lugar& l)
-{
-    w->setGeometry(APixeles(l.izquierda), APixeles(l.arriba), APixeles(l.ancho), APixeles(l.alto));
-}
-
-}  // namespace
 
 frmVerOndas::frmVerOndas(int canal) : Vista(etiqueta::kVerOndas), Canal_(canal)
 {

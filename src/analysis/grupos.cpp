@@ -1,0 +1,26 @@
+#include "analysis/grupos.h"
+
+namespace veldix {
+
+Tabla1<std::int16_t> CuentaMarcas(const Marcas& marcas)
+{
+    const int cuantos = static_cast<int>(marcas.size());
+    Tabla1<std::int16_t> grupos(0, cuantos);
+    for (int g = 1; g <= cuantos; ++g) {
+        if (!marcas[static_cast<std::size_t>(g - 1)]) continue;
+        grupos(g) = 1;
+        ++grupos(0);
+    }
+    return grupos;
+}
+
+std::vector<int> GruposMarcados(const Tabla1<std::int16_t>& grupos)
+{
+    std::vector<int> marcados;
+    if (grupos(0) != 1 && grupos(0) != 2) return marcados;
+    for (int g = 1; g <= grupos.UBound() && static_cast<int>(marcados.size()) < grupos(0); ++g)
+        if (grupos(g) == 1) marcados.push_back(g);
+    return marcados;
+}
+
+}  // namespace veldix

@@ -1,0 +1,36 @@
+#include "platform/forms/etiquetas.h"
+
+#include <QFontMetrics>
+
+#include "platform/pantalla.h"
+
+namespace veldix {
+
+QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre)
+{
+    auto* l = new QLabel(padre);
+    l->setObjectName(nombre);
+    l->setTextFormat(Qt::PlainText);
+    return l;
+}
+
+void PonTexto(QLabel* etiqueta, const QString& texto)
+{
+    constexpr int kMenorAncho = 60;  // percent
+    QFont letra = etiqueta->font();
+    const int pide = QFontMetrics(letra).horizontalAdvance(texto);
+    if (pide > etiqueta->width() && etiqueta->width() > 0) {
+        const int ahora = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
+        letra.setStretch(qMax(kMenorAncho, ahora * etiqueta->width() / pide));
+        etiqueta->setFont(letra);
+    }
+    etiqueta->setText(texto);
+}
+
+void Pon(QWidget* control, const Lugar& lugar)
+{
+    control->setGeometry(APixeles(lugar.izquierda), APixeles(lugar.arriba), APixeles(lugar.ancho),
+                         APixeles(lugar.alto));
+}
+
+}  // namespace veldix

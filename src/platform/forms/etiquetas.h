@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLabel>
+
+#include "platform/vista.h"
+
+namespace veldix {
+
+/// A label of plain text with its name.
+QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre);
+
+/// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
+/// They do not widen again before the label gets its font anew, so that they stand still while a bar moves.
+void PonTexto(QLabel* etiqueta, const QString& texto);
+
+/// Puts a control at its place.
+void Pon(QWidget* control, const Lugar& lugar);
+
+}  // namespace veldix
