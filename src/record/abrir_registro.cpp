@@ -59,7 +59,7 @@ std::int16_t AbrirRegistro(RecordStore& s)
         resultado = LeerDatBin(s);
     else
         resultado = Rechaza(s);
-    if (resultado >= 0 && ganchosRegistro.EscribeSesion) ganchosRegistro.EscribeSesion();
+    if (resultado >= 0) EscribeSesion();
     return resultado;
 }
 

@@ -6,6 +6,11 @@ namespace veldix {
 
 GanchosRegistro ganchosRegistro;
 
+void EscribeSesion()
+{
+    if (ganchosRegistro.EscribeSesion) ganchosRegistro.EscribeSesion();
+}
+
 void MuestraGasolino()
 {
     if (ganchosRegistro.MuestraGasolino) ganchosRegistro.MuestraGasolino();

@@ -17,6 +17,7 @@ struct GanchosRegistro {
 };
 extern GanchosRegistro ganchosRegistro;
 
+void EscribeSesion();
 void MuestraGasolino();
 void DescargaGasolino();
 /// Moves the gauge by `valor` points, or to it where not `relativo`; value 0 resets it.

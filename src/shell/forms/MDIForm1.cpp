@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
-#include <QPainter>
 #include <QScreen>
 #include <QTime>
 #include <QVBoxLayout>
@@ -55,19 +54,6 @@ void DescargaTodas(const QString& nombre)
 }
 
 }  // namespace
-
-void EtiquetaRuta::PonRuta(const QString& ruta)
-{
-    setText(ruta);
-    setToolTip(ruta);
-}
-
-void EtiquetaRuta::paintEvent(QPaintEvent*)
-{
-    QPainter p(this);
-    p.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter,
-               fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
-}
 
 MDIForm1::MDIForm1(const std::string& rutaPrograma, std::string linea) : linea_(std::move(linea))
 {

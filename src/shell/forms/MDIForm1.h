@@ -8,21 +8,11 @@
 
 #include <string>
 
+#include "platform/forms/EtiquetaRuta.h"
+
 namespace veldix {
 
 class Vista;
-
-/// A label that shows as much of a path as fits, its middle left out, and all of it in its tool tip.
-class EtiquetaRuta : public QLabel {
-    Q_OBJECT
-
-public:
-    using QLabel::QLabel;
-    void PonRuta(const QString& ruta);
-
-protected:
-    void paintEvent(QPaintEvent* evento) override;
-};
 
 /// The main window: an area of child windows and the permanent strip below it.
 class MDIForm1 : public QMainWindow {

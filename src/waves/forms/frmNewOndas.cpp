@@ -2,10 +2,10 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/enteros.h"
+#include "platform/forms/doble_clic.h"
 #include "platform/forms/escena.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -24,12 +24,7 @@ frmNewOndas::frmNewOndas() : Formulario(escena.principal, Qt::Dialog)
     CreaControles();
     Coloca();
     LlenaLista();
-    Conecta(List1, &QListWidget::itemDoubleClicked, this, &frmNewOndas::List1_DblClick);
-    for (const int tecla : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* atajo = new QShortcut(QKeySequence(tecla), List1);
-        atajo->setContext(Qt::WidgetShortcut);
-        Conecta(atajo, &QShortcut::activated, this, &frmNewOndas::List1_DblClick);
-    }
+    ConectaDobleClic(List1, this, &frmNewOndas::List1_DblClick);
     Conecta(filas_, &FilasRanura::Click, this, &frmNewOndas::grp_Click);
     Conecta(filas_, &FilasRanura::DblClick, this, &frmNewOndas::grp_DblClick);
     Conecta(filas_, &FilasRanura::Change, this, &frmNewOndas::grp_Change);

@@ -1,0 +1,25 @@
+#include "platform/forms/EtiquetaRuta.h"
+
+#include <QPainter>
+
+namespace veldix {
+
+EtiquetaRuta::EtiquetaRuta(QWidget* padre) : QLabel(padre)
+{
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void EtiquetaRuta::PonRuta(const QString& ruta)
+{
+    setText(ruta);
+    setToolTip(ruta);
+}
+
+void EtiquetaRuta::paintEvent(QPaintEvent*)
+{
+    QPainter p(this);
+    p.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter,
+               fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
+}
+
+}  // namespace veldix

@@ -1,0 +1,115 @@
+#include "templates/forms/frmSalvaPlan.h"
+
+#include <QVBoxLayout>
+
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/texto.h"
+#include "platform/textos.h"
+#include "templates/forms/cadena.h"
+#include "templates/forms/frmPlantilla.h"
+#include "templates/plantilla.h"
+
+namespace veldix {
+
+Portador<frmSalvaPlan> frmSalvaPlan::unica;
+
+frmSalvaPlan::frmSalvaPlan() : Formulario(escena.principal, Qt::Dialog)
+{
+    setObjectName("frmSalvaPlan");
+    setWindowTitle(Q(Rotulo(93, "Guardar plantilla")));
+    CreaControles();
+    Dispone();
+    Conecta(elector_->File1, &ListaFicheros::Click, this, &frmSalvaPlan::File1_Click);
+    Conecta(cmdOK, &QPushButton::clicked, this, &frmSalvaPlan::cmdOK_Click);
+    Conecta(cmdvolver, &QPushButton::clicked, this, &frmSalvaPlan::cmdvolver_Click);
+    Conecta(cmdcancel, &QPushButton::clicked, this, &frmSalvaPlan::cmdcancel_Click);
+    Atrapa(this, [this] { Form_Load(); });
+}
+
+void frmSalvaPlan::CreaControles()
+{
+    Label1 = new QLabel(Q(Rotulo(155, "Introduce el nombre del fichero sin extensión:")), this);
+    Label1->setObjectName("Label1");
+    Text2 = new QLineEdit(this);
+    Text2->setObjectName("Text2");
+    Text2->setAccessibleName(Label1->text());
+    Label1->setBuddy(Text2);
+    elector_ = new ElectorFicheros("Label2", "Text1", this);
+    const auto boton = [this](const char* nombre, int texto, const char* defecto) {
+        auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
+        b->setObjectName(nombre);
+        return b;
+    };
+    cmdvolver = boton("cmdvolver", 94, "volver");
+    cmdOK = boton("cmdOK", 24, "Aceptar");
+    cmdcancel = boton("cmdcancel", 25, "Cancelar");
+    PonBotones(cmdOK, cmdcancel);
+}
+
+void frmSalvaPlan::Dispone()
+{
+    auto* nombre = new QHBoxLayout;
+    nombre->addWidget(Label1);
+    nombre->addWidget(Text2, 1);
+    auto* botones = new QHBoxLayout;
+    botones->addWidget(cmdvolver);
+    botones->addStretch(1);
+    botones->addWidget(cmdOK);
+    botones->addWidget(cmdcancel);
+    auto* todo = new QVBoxLayout(this);
+    todo->addLayout(nombre);
+    todo->addSpacing(6);
+    todo->addWidget(elector_, 1);
+    todo->addSpacing(6);
+    todo->addLayout(botones);
+}
+
+void frmSalvaPlan::Form_Load()
+{
+    elector_->Pon(store.DirPlantillas);
+    elector_->PonPatron("*.CNF");
+    Centra(*this);
+}
+
+void frmSalvaPlan::File1_Click()
+{
+    constexpr std::size_t kExtension = 4;  // with its point
+    Text2->setText(Q(std::string(SinFinal(elector_->File1->Fichero(), kExtension))));
+}
+
+/// The pages go before the file is written: after a failure only the template set is left.
+void frmSalvaPlan::cmdOK_Click()
+{
+    const std::string nombre = U(Text2->text());
+    if (nombre.empty()) {
+        Avisa(Textos(243));
+        return;
+    }
+    const std::string ruta = UneRuta(elector_->Carpeta(), nombre) + ".cnf";
+    if (ExisteFichero(ruta) && !Pregunta(Textos(138))) return;
+    DescargaPaginas();
+    GrabarPlantilla(store, ruta);
+    Descarga();
+    frmPlantilla::unica.Muestra();
+}
+
+void frmSalvaPlan::cmdvolver_Click()
+{
+    Descarga();
+    MuestraAntesDeGuardar();
+}
+
+void frmSalvaPlan::cmdcancel_Click()
+{
+    CancelaPaginas();
+    Descarga();
+}
+
+void frmSalvaPlan::TrasError()
+{
+    Descarga();
+    MuestraAntesDeGuardar();
+}
+
+}  // namespace veldix
