@@ -54,6 +54,7 @@ private:
 
     void mnuAbrirComtrade_Click();
     void mnuCerrarComtrade_Click();
+    void mnuPlantilla_Click();
     void mnuDir_defecto_Click();
     void mnutraducirCOMTRADE_Click();
     void mnuEspanol_Click();

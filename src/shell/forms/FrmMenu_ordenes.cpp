@@ -10,6 +10,7 @@
 #include "shell/forms/FrmMenu.h"
 #include "shell/forms/frmAbrirComtrade.h"
 #include "shell/forms/frmDirect.h"
+#include "templates/forms/frmPlantilla.h"
 #include "templates/plantilla.h"
 #include "waves/forms/frmNewOndas.h"
 
@@ -41,6 +42,7 @@ void FrmMenu::ConectaMenus()
     };
     orden("mnuAbrirComtrade", &FrmMenu::mnuAbrirComtrade_Click);
     orden("mnuCerrarComtrade", &FrmMenu::mnuCerrarComtrade_Click);
+    orden("mnuPlantilla", &FrmMenu::mnuPlantilla_Click);
     orden("mnuDir_defecto", &FrmMenu::mnuDir_defecto_Click);
     orden("mnutraducirCOMTRADE", &FrmMenu::mnutraducirCOMTRADE_Click);
     orden("mnuEspanol", &FrmMenu::mnuEspanol_Click);
@@ -57,8 +59,9 @@ void FrmMenu::ConectaMenus()
 void FrmMenu::mnuAbrirComtrade_Click()
 {
     DescargaSelectores();
-    frmAbrirComtrade().Carga();
+    const bool abierto = frmAbrirComtrade().Carga();
     if (principal.muestraRegistro) principal.muestraRegistro();
+    if (abierto && store.FormatoDat == "ASCII") frmPlantilla::unica.Muestra();
 }
 
 void FrmMenu::mnuCerrarComtrade_Click()
@@ -68,10 +71,15 @@ void FrmMenu::mnuCerrarComtrade_Click()
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
 
+void FrmMenu::mnuPlantilla_Click()
+{
+    frmPlantilla::unica.Muestra();
+}
+
 void FrmMenu::mnuDir_defecto_Click()
 {
     LeeDirectorios(store);
-    frmDirect::unica.CargaNueva().show();
+    frmDirect::unica.Muestra();
 }
 
 void FrmMenu::mnutraducirCOMTRADE_Click()
@@ -125,7 +133,7 @@ void FrmMenu::mnuOndas_Click()
 
 void FrmMenu::mnuCanalog_Click()
 {
-    frmNewOndas::unica.CargaNueva().show();
+    frmNewOndas::unica.Muestra();
 }
 
 /// At most one box; the entries stay enabled in every case with a record.

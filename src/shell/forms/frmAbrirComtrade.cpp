@@ -35,28 +35,29 @@ struct Antes {
 
 }  // namespace
 
-void frmAbrirComtrade::Carga()
+bool frmAbrirComtrade::Carga()
 {
     const auto elegido =
         EligeFichero({Rotulo(18, "Abrir fichero COMTRADE"), store.DirDatos, "Data Files (*.dat)", "dat"});
-    if (elegido) Abre(*elegido);
+    return elegido && Abre(*elegido);
 }
 
-void frmAbrirComtrade::Abre(const std::string& dat)
+bool frmAbrirComtrade::Abre(const std::string& dat)
 {
     const Antes antes;
     NombraPorTitulo(store, dat);
     if (store.FicheroDat.empty() || store.FicheroCfg.empty()) {
         Avisa(Textos(store.FicheroDat.empty() ? 174 : 173));
         antes.Rutas();
-        return;
+        return false;
     }
     AbrirRegistro(store);
     if (store.AnioMal) {
         antes.Todo();
-        return;
+        return false;
     }
     ReiniciaRegistro(store);
+    return true;
 }
 
 }  // namespace veldix

@@ -10,11 +10,11 @@ namespace veldix {
 class frmAbrirComtrade {
 public:
     /// Asks for a `.dat` and opens its record. A cancelled dialog, a missing file or a refused year leaves
-    /// the record that was open as it was.
-    void Carga();
+    /// the record that was open as it was, and gives false.
+    bool Carga();
 
 private:
-    void Abre(const std::string& dat);
+    bool Abre(const std::string& dat);
 };
 
 }  // namespace veldix
