@@ -187,8 +187,15 @@ std::string ListaFicheros::Fichero() const
     return elegidos.isEmpty() ? std::string() : U(elegidos.constFirst()->text());
 }
 
+/// With nothing selected an arrow takes the first file; the view's own would pass over it.
 void ListaFicheros::keyPressEvent(QKeyEvent* evento)
 {
+    const bool flecha = evento->key() == Qt::Key_Down || evento->key() == Qt::Key_Up;
+    if (flecha && count() > 0 && Fichero().empty()) {
+        evento->accept();
+        setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+        return;
+    }
     if (!EsEntrar(*evento) || Fichero().empty()) {
         QListWidget::keyPressEvent(evento);
         return;

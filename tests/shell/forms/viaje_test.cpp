@@ -1,0 +1,139 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <cmath>
+#include <numbers>
+
+#include "analysis/forms/frmFasecuencias.h"
+#include "analysis/forms/frmFases.h"
+#include "analysis/forms/frmSecuencias.h"
+#include "platform/forms/ListaCarpetas.h"
+#include "platform/forms/dialogo_fichero.h"
+#include "shell/forms/FrmMenu.h"
+#include "support/arbol.h"
+#include "templates/forms/frmPlantilla.h"
+
+namespace veldix {
+namespace {
+
+using prueba::ConFinales;
+
+/// From the file dialog to the diagram and back, with the mouse and the keys.
+class Viaje : public prueba::Arbol {
+protected:
+    Viaje()
+    {
+        Seno("seno", "ASCII");
+        c.Escribe("t.cnf",
+                  ConFinales("ver 1.1|MI LINEA|ANALOGICOS| 3 |1%Ia%%A$|2%Ib%%A$|3%Ic%%A$|TRIFASICOS| 1 |"
+                             "1%2%3%Intensidades%1$|-----"));
+        Arranca();
+    }
+    ~Viaje() override { PonDialogoFichero(nullptr); }
+
+    /// Two cycles of a balanced system of 100 A, 20 samples a cycle, whole numbers in thousandths.
+    void Seno(const std::string& nombre, const std::string& formato) const
+    {
+        std::string cfg = "SE,R|3,3A,0D|", dat;
+        for (const char* canal : {"1,IA", "2,IB", "3,IC"})
+            cfg += std::string(canal) + ",,,A,0.001,0,0,-99999,99999|";
+        for (int s = 1; s <= 40; ++s) {
+            dat += (s > 1 ? "|" : "") + std::to_string(s) + "," + std::to_string((s - 1) * 1000);
+            for (int fase = 0; fase < 3; ++fase) {
+                const double angulo = 2.0 * std::numbers::pi * ((s - 1) / 20.0 - fase / 3.0);
+                dat += "," + std::to_string(std::lround(141421.356 * std::sin(angulo)));
+            }
+        }
+        Registro(nombre, cfg + "50|1|1000,40|fecha|fecha|" + formato, dat.c_str());
+    }
+    void Abre(const std::string& dat)
+    {
+        PonDialogoFichero([=, this](const PeticionFichero&) { return std::optional(c.Ruta("d/") + dat); });
+        Accion("mnuAbrirComtrade")->trigger();
+        QTest::qWait(1);
+    }
+    void Pulsa(const char* boton, Formulario* form)
+    {
+        QTest::mouseClick(Hijo<QPushButton>(boton, form), Qt::LeftButton);
+        QTest::qWait(1);
+        EXPECT_EQ(cajas->Pendientes(), 0U);
+    }
+    /// Chooses the template of the tree in the dialog that stands, by the keyboard alone.
+    void EligePlantilla()
+    {
+        frmPlantilla* form = frmPlantilla::unica.Cargado();
+        if (!form) throw std::runtime_error("no dialog of templates");
+        auto* lista = Hijo<ListaFicheros>("File1", form);
+        QTest::keyClick(lista, Qt::Key_Down);
+        EXPECT_EQ(store.FicheroCnf, c.Ruta("t.cnf"));
+        QTest::keyClick(lista, Qt::Key_Return);
+        QTest::qWait(1);
+    }
+    /// The chooser with the first group ticked in the named columns, accepted by Enter.
+    void Fasores(std::initializer_list<const char*> cajasMarcadas)
+    {
+        Accion("mnuFasores")->trigger();
+        frmFasecuencias* form = frmFasecuencias::unica.Cargado();
+        if (!form) throw std::runtime_error("no chooser");
+        for (const char* caja : cajasMarcadas)
+            QTest::keyClick(Hijo<QCheckBox>(caja, form), Qt::Key_Space);
+        QTest::keyClick(Hijo<QCheckBox>("fas1", form), Qt::Key_Return);
+        QTest::qWait(1);
+        EXPECT_FALSE(frmFasecuencias::unica.Cargado());
+    }
+    static bool MenuALaVista() { return FrmMenu::unica.Cargado()->Ventana().isVisible(); }
+};
+
+TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
+{
+    const prueba::Separa punto(".", "");
+    Abre("seno.dat");
+    EXPECT_FALSE(Accion("mnuFasores")->isEnabled());
+    EligePlantilla();
+    EXPECT_FALSE(frmPlantilla::unica.Cargado());
+    EXPECT_TRUE(Accion("mnuFasores")->isEnabled() && Accion("mnuInform")->isEnabled());
+    EXPECT_EQ(store.NombreEstacion, "MI LINEA");
+    EXPECT_NE(Ini("ficher.ini").find(c.Ruta("t.cnf")), std::string::npos) << "session not written";
+
+    Fasores({"fas1"});
+    frmFases* fases = frmFases::unica.Cargado();
+    ASSERT_TRUE(fases && fases->Ventana().isVisible());
+    EXPECT_FALSE(MenuALaVista());
+    EXPECT_EQ(Hijo<QLabel>("LblCorrienteA", fases)->text(), "Ia: 100. @ -18.A");
+    EXPECT_EQ(Hijo<QLabel>("lblNumero", fases)->text(), Q(Textos(266) + "1"));
+    Pulsa("cmdSalir", nullptr);
+    EXPECT_FALSE(frmFases::unica.Cargado());
+    EXPECT_TRUE(MenuALaVista() && FrmMenu::unica.Cargado()->Ventana().isMaximized());
+
+    store.Muestras(1, 1) = 1e6F;  // the transform is not run again
+    Fasores({"fas1", "sec1"});
+    frmSecuencias* secuencias = frmSecuencias::unica.Cargado();
+    ASSERT_TRUE(secuencias && frmFases::unica.Cargado());
+    EXPECT_EQ(Hijo<QLabel>("lblCorSecPos", secuencias)->text(), "Ia1: 99.999 @ -18.A")
+        << "0.866, not its root";
+    QTest::keyClick(secuencias->Barra(), Qt::Key_PageDown);
+    EXPECT_EQ(frmFases::unica.Cargado()->Barra()->value(), 120);
+    Pulsa("cmdSalir", nullptr);
+    EXPECT_FALSE(frmFases::unica.Cargado() || frmSecuencias::unica.Cargado());
+    EXPECT_TRUE(MenuALaVista());
+    Accion("mnuCerrarComtrade")->trigger();
+    EXPECT_TRUE(store.FasoresDFT.Vacia() && store.Secuencias.Vacia() && !store.DFTHecha);
+}
+
+TEST_F(Viaje, TemplateIsAskedForBehindABinaryOrARefusedRecord)
+{
+    Seno("binario", "BINARY");
+    Abre("binario.dat");
+    EXPECT_FALSE(frmPlantilla::unica.Cargado());
+    Registro("anio", Cfg("OTRA,R,1999", "1", "ASCII"));
+    cajas->Espera(".cfg COMTRADE file is not OK, you must check the year of revision ", Icono::Ninguno);
+    Abre("anio.dat");
+    EXPECT_FALSE(frmPlantilla::unica.Cargado());
+    Accion("mnuPlantilla")->trigger();
+    EXPECT_TRUE(frmPlantilla::unica.Cargado() && frmPlantilla::unica.Cargado()->isVisible());
+}
+
+}  // namespace
+}  // namespace veldix
