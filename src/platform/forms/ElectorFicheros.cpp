@@ -50,16 +50,19 @@ void ElectorFicheros::Dispone(const char* nombreCabecera)
     unidades->addWidget(rotuloUnidades);
     unidades->addWidget(Drive1, 1);
 
+    constexpr int kEntreLineas = 6, kEntreColumnas = 16;
     auto* ficheros = new QVBoxLayout;
+    ficheros->setSpacing(kEntreLineas);
     ficheros->addLayout(cabecera);
     ficheros->addWidget(File1, 1);
     ficheros->addLayout(pie);
     auto* carpetas = new QVBoxLayout;
+    carpetas->setSpacing(kEntreLineas);
     carpetas->addWidget(Rotula("Label4", Rotulo(21, "Directorios:"), Dir1));
     carpetas->addWidget(Dir1, 1);
     carpetas->addLayout(unidades);
     auto* columnas = new QHBoxLayout;
-    columnas->setSpacing(16);
+    columnas->setSpacing(kEntreColumnas);
     columnas->addLayout(ficheros, 1);
     columnas->addLayout(carpetas, 1);
     auto* todo = new QVBoxLayout(this);

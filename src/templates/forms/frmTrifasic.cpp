@@ -89,6 +89,7 @@ void frmTrifasic::CreaGrupo(int g)
     grupo.txtFactor->setObjectName("txtFactor" + numero);
     grupo.ListTrif = new QListWidget(grupo.fmetrif);
     grupo.ListTrif->setObjectName("ListTrif" + numero);
+    grupo.ListTrif->setMinimumWidth(grupo.ListTrif->fontMetrics().averageCharWidth() * 30);
     grupo.filas = new FilasRanura(kFases, grupo.fmetrif, numero);
     DisponeGrupo(grupo, g);
 }
