@@ -41,7 +41,7 @@ QLabel* ElectorFicheros::Rotula(const char* nombre, const std::string& texto, QW
 void ElectorFicheros::Dispone(const char* nombreCabecera)
 {
     auto* camino = new QHBoxLayout;
-    camino->addWidget(Rotula("label", Rotulo(20, "Ruta:"), ruta_));
+    camino->addWidget(Rotula("label", Rotulo(20, "Path:"), ruta_));
     camino->addWidget(ruta_, 1);
     cabecera->addWidget(Rotula(nombreCabecera, Rotulo(26, "Plantillas:"), File1));
     auto* unidades = new QHBoxLayout;

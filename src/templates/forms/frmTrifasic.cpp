@@ -46,7 +46,7 @@ void PintaCaja(QLineEdit* caja, bool activa)
 frmTrifasic::frmTrifasic() : Formulario(escena.principal, Qt::Dialog)
 {
     setObjectName("frmTrifasic");
-    setWindowTitle(Q(Rotulo(39, "Número de grupos trifásicos:")).remove(QLatin1Char(':')));
+    setWindowTitle(Q(Rotulo(19, "Grupos trifásicos")));
     CreaControles();
     Dispone();
     Conecta(txtnumTrif, &QLineEdit::textChanged, this, &frmTrifasic::txtnumTrif_Change);
