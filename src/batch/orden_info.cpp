@@ -2,11 +2,6 @@
 
 #include "batch/json.h"
 #include "batch/ordenes.h"
-#include "platform/avisos.h"
-#include "platform/ficheros.h"
-#include "platform/texto.h"
-#include "platform/textos.h"
-#include "templates/plantilla.h"
 
 namespace veldix {
 
@@ -79,27 +74,6 @@ void Plantilla(EscritorJson& j, const RecordStore& s)
     Filas(j, "GruposDig", s.GruposDig, [&j](const FilaGrupoDig& g) { j.Texto(g.Nombre).Texto(g.Cuenta); });
     Filas(j, "CanalesDig", s.CanalesDig, [&j](const FilaCanalDig& c) { j.Texto(c.Numero).Texto(c.Nombre); });
     j.Clave("PlantillaNoValida").Logico(s.PlantillaNoValida);
-}
-
-/// Reads the template and applies it if it fits. False after a message.
-bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
-{
-    if (!ExisteFichero(ruta)) {
-        AvisaError(ErrorEjecucion(error::kFicheroNoEncontrado));
-        return false;
-    }
-    if (!EsExtensionPlantilla(ruta)) {
-        Avisa(Rotulo(147, consola.espanol ? "No es una plantilla:" : "Not a template:") + " " + ruta);
-        return false;
-    }
-    store.FicheroCnf = ruta;
-    // Both flags up, so that the reader tells whether the template fits the record.
-    store.RegistroAbierto = true;
-    store.PlantillaAplicada = true;
-    LeerPlantilla(store);
-    if (store.VersionPlan == "ver 1.0") return false;
-    if (!store.PlantillaNoValida) AplicaPlantilla(store);
-    return true;
 }
 
 }  // namespace

@@ -37,8 +37,7 @@ std::string LineaMuestra(const RecordStore& s, int i)
 Salida OrdenSamples(const Argumentos& a, const Consola& consola)
 {
     if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
-    if (!a.referencia.empty() && !store.Muestras.Vacia())
-        AplicaReferencia(store, a.referencia == "primary" ? Lado::Primario : Lado::Secundario);
+    AplicaReferenciaDe(a);
     consola.resultados << Cabecera(store.Muestras.Columnas(), store.MuestrasDig.Columnas());
     for (int i = 1; i <= store.Muestras.Filas() && consola.resultados; ++i)
         consola.resultados << LineaMuestra(store, i);

@@ -1,6 +1,7 @@
 #include "batch/ordenes.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <optional>
 #include <ostream>
@@ -13,6 +14,7 @@
 #include "record/abrir_registro.h"
 #include "shell/ajustes.h"
 #include "shell/rutas.h"
+#include "templates/plantilla.h"
 
 namespace veldix {
 
@@ -21,7 +23,7 @@ namespace {
 struct Orden {
     const char* nombre;
     std::size_t minimo, maximo;  // words behind the name
-    bool referencia;             // takes --reference
+    bool referencia, grupo;      // takes --reference, needs --group
     Salida (*corre)(const Argumentos&, const Consola&);
     const char* uso;
     const char* es;
@@ -29,12 +31,19 @@ struct Orden {
 };
 
 constexpr Orden kOrdenes[] = {
-    {"info", 1, 2, false, OrdenInfo, "info REC.dat [TEMPLATE.cnf]",
+    {"info", 1, 2, false, false, OrdenInfo, "info REC.dat [TEMPLATE.cnf]",
      "escribe el registro, y la plantilla si se da, como JSON",
      "writes the record, and the template if given, as JSON"},
-    {"samples", 1, 1, true, OrdenSamples, "samples REC.dat [--reference primary|secondary]",
+    {"samples", 1, 1, true, false, OrdenSamples, "samples REC.dat [--reference primary|secondary]",
      "escribe las muestras como CSV, las señales en las unidades del registro",
      "writes the samples as CSV, in the units of the record"},
+    {"phasors", 1, 1, true, false, OrdenPhasors, "phasors REC.dat [--reference primary|secondary]",
+     "escribe los fasores de los canales analógicos como CSV, eficaces y en grados",
+     "writes the phasors of the analog channels as CSV, RMS and degrees"},
+    {"sequences", 2, 2, true, true, OrdenSequences,
+     "sequences REC.dat TEMPLATE.cnf --group G [--reference primary|secondary]",
+     "escribe las secuencias del grupo trifásico G de la plantilla como CSV",
+     "writes the sequences of the template's three-phase group G as CSV"},
 };
 
 const Orden* BuscaOrden(const std::string& nombre)
@@ -77,9 +86,18 @@ bool TomaOpcion(const std::vector<std::string>& args, std::size_t& i, std::strin
     return false;
 }
 
+/// 1 to 999, or 0 for a text that is no such number.
+int NumeroDeGrupo(const std::string& texto)
+{
+    int numero = 0;
+    const char* fin = texto.data() + texto.size();
+    const auto [hasta, fallo] = std::from_chars(texto.data(), fin, numero);
+    return fallo == std::errc() && hasta == fin && numero >= 1 && numero <= 999 ? numero : 0;
+}
+
 struct Linea {
     std::vector<std::string> sueltos;
-    std::optional<std::string> idioma, referencia;
+    std::optional<std::string> idioma, referencia, grupo;
     bool ayuda = false, mal = false;
 };
 
@@ -95,13 +113,15 @@ Linea ParteArgumentos(const std::vector<std::string>& args)
         else if (args[i] == "--help" || args[i] == "-h")
             l.ayuda = true;
         else if (!TomaOpcion(args, i, "--lang", l.idioma) &&
-                 !TomaOpcion(args, i, "--reference", l.referencia))
+                 !TomaOpcion(args, i, "--reference", l.referencia) &&
+                 !TomaOpcion(args, i, "--group", l.grupo))
             l.mal = true;
     }
     const auto fuera = [](const std::optional<std::string>& v, const char* uno, const char* otro) {
         return v && *v != uno && *v != otro;
     };
-    l.mal = l.mal || fuera(l.idioma, "es", "en") || fuera(l.referencia, "primary", "secondary");
+    l.mal = l.mal || fuera(l.idioma, "es", "en") || fuera(l.referencia, "primary", "secondary") ||
+            (l.grupo && NumeroDeGrupo(*l.grupo) < 1);
     return l;
 }
 
@@ -131,6 +151,32 @@ bool AbreRegistroDe(const std::string& dat, const Consola& consola)
     return AbrirRegistro(store) >= 0;
 }
 
+bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
+{
+    if (!ExisteFichero(ruta)) {
+        AvisaError(ErrorEjecucion(error::kFicheroNoEncontrado));
+        return false;
+    }
+    if (!EsExtensionPlantilla(ruta)) {
+        Avisa(Rotulo(147, consola.espanol ? "No es una plantilla:" : "Not a template:") + " " + ruta);
+        return false;
+    }
+    store.FicheroCnf = ruta;
+    // Both flags up, so that the reader tells whether the template fits the record.
+    store.RegistroAbierto = true;
+    store.PlantillaAplicada = true;
+    LeerPlantilla(store);
+    if (store.VersionPlan == "ver 1.0") return false;
+    if (!store.PlantillaNoValida) AplicaPlantilla(store);
+    return true;
+}
+
+void AplicaReferenciaDe(const Argumentos& a)
+{
+    if (!a.referencia.empty() && !store.Muestras.Vacia())
+        AplicaReferencia(store, a.referencia == "primary" ? Lado::Primario : Lado::Secundario);
+}
+
 Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& rutaPrograma, Consola consola)
 {
     const Linea linea = ParteArgumentos(argumentos);
@@ -142,7 +188,7 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
     }
     const std::size_t palabras = linea.sueltos.empty() ? 0 : linea.sueltos.size() - 1;
     if (!orden || linea.mal || palabras < orden->minimo || palabras > orden->maximo ||
-        (linea.referencia && !orden->referencia)) {
+        (linea.referencia && !orden->referencia) || linea.grupo.has_value() != orden->grupo) {
         EscribeUso(consola.mensajes, consola.espanol, orden);
         return Salida::MalUso;
     }
@@ -155,8 +201,10 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
     });
     Salida salida = Salida::Fallida;
     try {
-        salida = orden->corre(
-            {{linea.sueltos.begin() + 1, linea.sueltos.end()}, linea.referencia.value_or("")}, consola);
+        salida = orden->corre({{linea.sueltos.begin() + 1, linea.sueltos.end()},
+                               linea.referencia.value_or(""),
+                               NumeroDeGrupo(linea.grupo.value_or(""))},
+                              consola);
     } catch (const std::exception&) {
         AvisaError(ErrorEnVuelo());
     }

@@ -26,14 +26,25 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
 struct Argumentos {
     std::vector<std::string> sueltos;
     std::string referencia;  ///< "primary", "secondary" or empty
+    int grupo = 0;           ///< three-phase group, from 1, of a command that takes one
 };
 
 /// Opens a record. False after its message.
 bool AbreRegistroDe(const std::string& dat, const Consola& consola);
 
+/// Reads a template and applies it if it fits, which PlantillaNoValida tells. False after a message.
+bool LeePlantillaDe(const std::string& ruta, const Consola& consola);
+
+/// Applies the side that was asked for, if any, to a record that has samples.
+void AplicaReferenciaDe(const Argumentos& a);
+
 /// JSON of the record and, where one is named, of its template.
 Salida OrdenInfo(const Argumentos& a, const Consola& consola);
 /// CSV of the samples.
 Salida OrdenSamples(const Argumentos& a, const Consola& consola);
+/// CSV of the running phasors of all analog channels.
+Salida OrdenPhasors(const Argumentos& a, const Consola& consola);
+/// CSV of the symmetrical components of a three-phase group.
+Salida OrdenSequences(const Argumentos& a, const Consola& consola);
 
 }  // namespace veldix

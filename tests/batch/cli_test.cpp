@@ -117,17 +117,59 @@ TEST_F(Cli, SamplesAreOfTheWrongSideOrWithAComma)
         EXPECT_EQ(Corre(linea), "sample,time_us,A1,A2,D1\n" + filas) << linea;
 }
 
+/// The circuit of the demonstration record says what stands in the fault: at sample 432 IA 2633 A, VA 50.9
+/// kV, I2 = I0 = 826 A.
+TEST_F(Cli, PhasorsOrSequencesAreOfAnotherRowSideOrGroup)
+{
+    const struct {
+        std::string linea, cabecera;
+        int columna;  ///< of a magnitude, from 0
+        double valor;
+    } casos[] = {
+        {"phasors ej/falta_1991.dat", "row,A1_x,A1_y,A1_mag,A1_ang,A2_x", 19, 2633.0},
+        {"phasors ej/falta_1991.dat", "row,A1_x,", 3, 50.9},
+        {"phasors ej/falta_1997.dat", "row,A1_x,", 19, 0.0},
+        {"phasors ej/falta_1997b.dat --reference primary", "row,A1_x,", 19, 2633.0},
+        {"phasors ej/falta_1997.dat --reference secondary", "row,A1_x,", 19, 2633.0 / 800.0},
+        {"sequences ej/falta_1991.dat ej/falta.cnf --group 2", "row,pos_x,pos_y,pos_mag,pos_ang,neg_x", 7,
+         826.0},
+        {"sequences ej/falta_1991.dat ej/falta.cnf --group=2", "row,pos_x", 11, 826.0},
+        {"sequences ej/falta_1991.dat ej/falta.cnf --group 1", "row,pos_x", 11, 22.5 / 3.0},
+    };
+    for (const auto& k : casos) {
+        std::istringstream csv(Corre(k.linea));
+        std::string fila, campo;
+        std::getline(csv, fila);
+        EXPECT_TRUE(fila.starts_with(k.cabecera)) << fila;
+        while (!fila.starts_with("592,") && std::getline(csv, fila)) {
+        }
+        std::istringstream campos(fila);
+        for (int i = 0; i <= k.columna; ++i)
+            std::getline(campos, campo, ',');
+        EXPECT_NEAR(Val(campo), k.valor, 0.005 * k.valor) << k.linea;
+        while (std::getline(csv, fila))
+            campo = fila.substr(0, fila.find(','));
+        EXPECT_EQ(campo, "2720") << "five cycles and the samples";
+    }
+}
+
 TEST_F(Cli, FailureOrWrongUsageEndsWellOrPrintsAHalfResult)
 {
     c.Escribe("d/sincfg.dat", "1,0,10,20,0\r\n");
     Registro("anio", "SE,R,1999");
     Registro("formato", "SE,R", "", "FLOAT32");
+    c.Escribe("d/muchos.cnf", ConFinales("ver 1.1|T|ANALOGICOS|9|1%a%x%V$|TRIFASICOS|1|1%2%3%T%1$|-----"));
     const std::pair<const char*, std::vector<const char*>> casos[] = {
         {"1veldix-cli: ",
          {"info d/no.dat", "info d/sincfg.dat", "samples d/anio.dat", "samples d/formato.dat",
-          "info d/rec.dat d/no.cnf", "info d/"}},
+          "info d/rec.dat d/no.cnf", "info d/", "phasors d/formato.dat", "phasors d/rec.dat",
+          "sequences ej/falta_1991.dat d/no.cnf --group 1",
+          "sequences ej/falta_1991.dat ej/falta.cnf --group 3",
+          "sequences ej/falta_1991.dat d/muchos.cnf --group 1"}},
         {"2",
          {"", "infos d/rec.dat", "info", "info d/rec.dat d/p.cnf d/p.cnf", "info d/rec.dat --nada",
+          "phasors d/rec.dat --group 1", "sequences d/rec.dat d/p.cnf",
+          "sequences d/rec.dat d/p.cnf --group 0", "sequences d/rec.dat d/p.cnf --group 1x",
           "info d/rec.dat --reference primary", "samples d/rec.dat --reference x", "samples --reference"}},
     };
     for (const auto& [principio, lineas] : casos)
@@ -135,6 +177,8 @@ TEST_F(Cli, FailureOrWrongUsageEndsWellOrPrintsAHalfResult)
             const std::string r = Corre("--lang en " + linea);
             EXPECT_TRUE(r.starts_with(principio) && r.size() > 20) << linea << '\n' << r;
         }
+    Da("--lang en phasors d/rec.dat",
+       "1veldix-cli: Error 9: Subscript out of range");  // shorter than a cycle
     Da("--lang en info d/formato.dat", "The format line of the .cfg file is not valid.");
     Da("--lang es info d/formato.dat", "La línea de formato del fichero .cfg no es válida.");
     EXPECT_TRUE(Corre("samples d/rec.dat --help --lang en").starts_with("Usage:"));
