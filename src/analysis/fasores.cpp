@@ -1,6 +1,7 @@
 #include "analysis/fasores.h"
 
 #include <array>
+#include <bit>
 #include <cmath>
 #include <limits>
 
@@ -24,6 +25,19 @@ void Dimensiona(Tabla2<float>& tabla, const Tabla2<float>& como)
 {
     const int filas = como.UBound(1), columnas = como.UBound(2);
     if (tabla.Filas() != filas || tabla.Columnas() != columnas) tabla = Tabla2<float>(filas, columnas);
+}
+
+/// One row of CalculaCartesianas; whether all of it is finite, which is seen by the exponents so that both
+/// loops run in vectors.
+bool Amplia(const float* __restrict f, int columnas, double escala, double zoom, float* __restrict destino)
+{
+    constexpr std::uint32_t kExponente = 0x7F800000U;
+    for (int j = 0; j < columnas; ++j)
+        destino[j] = static_cast<float>(escala * f[j] * zoom);
+    std::uint32_t fuera = 0;
+    for (int j = 0; j < columnas; ++j)
+        fuera |= (std::bit_cast<std::uint32_t>(destino[j]) & kExponente) == kExponente ? 1U : 0U;
+    return fuera == 0;
 }
 
 /// The six parts of a group's components at one row, from the phases' columns.
@@ -94,19 +108,10 @@ void CalculaCartesianas(const Tabla2<float>& fasores, float escala, float zoom, 
 {
     Dimensiona(Cartesianas, fasores);
     const int filas = fasores.UBound(1), columnas = fasores.UBound(2);
-    const double e = escala, z = zoom;
-    float mayor = 0.0F;
-    for (int i = 1; i <= filas; ++i) {
-        const float* __restrict f = fasores.fila(i);
-        float* __restrict destino = Cartesianas.fila(i);
-        for (int j = 0; j < columnas; ++j) {
-            const auto v = static_cast<float>(e * f[j] * z);
-            const float a = v < 0.0F ? -v : v;
-            mayor = a > mayor ? a : mayor;
-            destino[j] = v;
-        }
-    }
-    if (!(mayor <= kMayor)) Lanza(error::kDesbordamiento);
+    bool cabe = true;
+    for (int i = 1; i <= filas; ++i)
+        cabe = Amplia(fasores.fila(i), columnas, escala, zoom, Cartesianas.fila(i)) && cabe;
+    if (!cabe) Lanza(error::kDesbordamiento);
 }
 
 void CalculaSecuencias(RecordStore& s)

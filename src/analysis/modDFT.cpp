@@ -62,8 +62,9 @@ Tabla2<float> CoeficientesDFT(const RecordStore& s, std::int16_t ciclo, int cana
 }
 
 /// A row from the one before it. Every difference, product and sum is rounded to float32.
-void AvanzaFila(float* __restrict fila, const float* __restrict previa, const float* __restrict entra,
-                const float* __restrict sale, const float* __restrict coeficientes, int canales)
+[[gnu::noinline]] void AvanzaFila(float* __restrict fila, const float* __restrict previa,
+                                  const float* __restrict entra, const float* __restrict sale,
+                                  const float* __restrict coeficientes, int canales)
 {
     for (int c = 0; c < canales; ++c) {
         const float d = entra[c] - sale[c];

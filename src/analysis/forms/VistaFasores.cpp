@@ -15,10 +15,10 @@ namespace veldix {
 namespace {
 
 /// A stretch of the line as it looks on the diagram.
-QPixmap MuestraColor(QSize tamano, QRgb color)
+QPixmap MuestraColor(QRgb color)
 {
-    constexpr int kGrueso = 3, kAlto = 11, kMargen = 2;
-    QPixmap muestra(qMax(1, tamano.width()), kAlto);
+    constexpr int kGrueso = 3, kAncho = 20, kAlto = 11, kMargen = 2;
+    QPixmap muestra(kAncho, kAlto);
     muestra.fill(QColor(kFondoDiagrama));
     QPainter(&muestra).fillRect(kMargen, (kAlto - kGrueso) / 2, muestra.width() - 2 * kMargen, kGrueso,
                                 QColor(color));
@@ -30,6 +30,7 @@ QPixmap MuestraColor(QSize tamano, QRgb color)
 VistaFasores::VistaFasores(const Papel& papel) : Vista(papel.etiqueta), papel_(papel)
 {
     setObjectName(papel_.nombre);
+    setAutoFillBackground(true);  // a step of the bar then paints nothing of the frame behind
     CreaControles();
     CreaBotones();
     CreaTrazos();
@@ -73,6 +74,7 @@ void VistaFasores::CreaTrazos()
     for (std::size_t i = 0; i < lineas_.size(); ++i) {
         lineas_[i] = new LineaLibre(kColoresFasor[i], papel_.lineas[i], Picture1);
         marcas_[i] = CreaEtiqueta(this, QString("Label%1").arg(i + 1));
+        marcas_[i]->setPixmap(MuestraColor(kColoresFasor[i]));
         textos_[i] = CreaEtiqueta(this, papel_.textos[i]);
     }
 }
@@ -128,7 +130,6 @@ void VistaFasores::ColocaControles()
     Pon(pctimpresora, l.pctimpresora);
     for (std::size_t i = 0; i < textos_.size(); ++i) {
         Pon(marcas_[i], l.marcas[i]);
-        marcas_[i]->setPixmap(MuestraColor(marcas_[i]->size(), kColoresFasor[i]));
         textos_[i]->setFont(font());
         Pon(textos_[i], l.textos[i]);
     }
@@ -204,10 +205,10 @@ void VistaFasores::Picture1_PideDibujo()
 void VistaFasores::resizeEvent(QResizeEvent* evento)
 {
     Vista::resizeEvent(evento);
-    if (Cargada && !Descargado() && size() != colocada_) Atrapa(this, [this] { Form_Resize(); });
+    if (Cargada && !Descargado() && size() != colocada_) Atrapa(this, [this] { Recoloca(); });
 }
 
-void VistaFasores::Form_Resize()
+void VistaFasores::Recoloca()
 {
     PonPuntero(this, Puntero::Propio);
     ColocaControles();

@@ -57,7 +57,7 @@ private:
     void Form_Load();
     void PreparaBarra();
     void ColocaControles();
-    void Form_Resize();
+    void Recoloca();
 
     void PintaEjes();
     void Pinta();
