@@ -9,6 +9,7 @@
 
 namespace veldix {
 
+class frmVerCmpang;
 class frmVerOndas;
 
 /// A row of `Canales` and `CanalesPlan`; the column of the format behind each field.
@@ -187,7 +188,10 @@ struct GrupoVistas {
     Tabla1<frmVerOndas*> VentanaOnda;  ///< the open window of each slot, or null; its unload clears it
     Tabla1<std::int16_t> OndaCanal;    ///< 1 where a slot is to be shown
     std::int16_t NumVentanasOnda = 0;
+    Tabla1<frmVerCmpang*> VentanaComp;  ///< 1 to 3, the open window of each row of `MatrizComp`, or null
+    Tabla2<std::uint8_t> MatrizComp;    ///< (1 to 3, channel row), 1 where the window has the channel
     std::int16_t NumVentanasComp = 0;
+    bool CompAbierta = false;                ///< composition windows were shown
     std::array<std::uint8_t, 15> Colores{};  ///< colour order of curves, from 0
     Tabla1<float> MinCanal, MaxCanal;        ///< last result of TablaMinMax
     float FactorZoomY = 0.0F;                ///< shared by all individual wave windows

@@ -1,0 +1,65 @@
+#include "waves/bandas.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "platform/enteros.h"
+#include "platform/texto.h"
+#include "waves/plot.h"
+
+namespace veldix {
+
+namespace {
+
+enum class Unidad { Amperio, Voltio, Otra };
+
+Unidad UnidadDe(const RecordStore& s, int r)
+{
+    const auto unidades = Recorta(s.Canales(r).Unidades);
+    if (unidades == "A") return Unidad::Amperio;
+    return unidades == "V" ? Unidad::Voltio : Unidad::Otra;
+}
+
+}  // namespace
+
+std::vector<int> CanalesMarcados(const RecordStore& s)
+{
+    std::vector<int> canales;
+    for (int r = 1; r <= s.NumAnalog; ++r)
+        if (s.OndaCanal(r) == 1) canales.push_back(r);
+    return canales;
+}
+
+Bandas ColocaBandas(RecordStore& s, const std::vector<int>& canales, float alto)
+{
+    TablaMinMax(s, s.Muestras);
+    Bandas b;
+    b.canales = canales;
+    b.alto = Single(Divide(alto, static_cast<double>(canales.size())) + 1.0);
+    float comun = 0.0F;
+    for (const int r : canales) {
+        const int c = ColumnaDeCanal(s, r);
+        b.escalas.push_back(std::max(std::fabs(s.MaxCanal(c)), std::fabs(s.MinCanal(c))));
+        if (UnidadDe(s, r) != Unidad::Otra) comun = std::max(comun, b.escalas.back());
+    }
+    const double util = (double{b.alto} - (double{b.alto} + b.alto) / 50.0) / 2.0;
+    for (std::size_t k = 0; k < canales.size(); ++k) {
+        float m = UnidadDe(s, canales[k]) == Unidad::Otra ? b.escalas[k] : comun;
+        if (m == 0.0F) m = b.alto / 2.0F;
+        b.escalas[k] = Single(Divide(util, m));
+    }
+    return b;
+}
+
+float EscalaRegistro(float ancho, double muestras)
+{
+    return Single(Divide(ancho - 150.0, muestras));
+}
+
+float EscalaTramo(float ancho, double s, double e)
+{
+    return Single(Divide(ancho - 100.0, e - s));
+}
+
+}  // namespace veldix
