@@ -65,8 +65,7 @@ std::optional<Tramo> Reproduce(const NivelCaja& nivel, std::int16_t ultima)
 void ZoomCaja::Reinicia(float ancho, float alto, std::int16_t ultima)
 {
     MuestraInicial = 0;
-    NivelZoom = 0;
-    NumNiveles = 1;
+    Vuelve();
     EscalaX = EscalaHorizontal(ancho, ultima);
     Pila(0).MuestraInicial = 0;
     Pila(1) = NivelCaja{.CajaY1 = 0.0F,
@@ -139,9 +138,7 @@ void ZoomCaja::Guarda(float ancho, float alto, float factorZoomY)
     if (!ZoomPendiente) return;
     Pila(NumNiveles + 1) = NivelCaja{CajaY1, CajaY2, CajaX1,     CajaX2, factorZoomY, MuestraInicialAnt,
                                      alto,   ancho,  EscalaXAnt, OrigenY};
-    NivelZoom = NumNiveles;
-    ++NumNiveles;
-    ZoomPendiente = false;
+    Avanza();
 }
 
 }  // namespace veldix

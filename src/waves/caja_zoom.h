@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "waves/historia_zoom.h"
+
 namespace veldix {
 
 /// One level of a box zoom: the box as drawn and the state before it, from which the zoom is replayed.
@@ -46,16 +48,14 @@ BordesCaja Bordes(const NivelCaja& nivel);
 std::optional<Tramo> Reproduce(const NivelCaja& nivel, std::int16_t ultima);
 
 /// The box zoom of one window: its state, its history, and the box that the mouse draws.
-struct ZoomCaja {
+struct ZoomCaja : HistoriaZoom {
     float EscalaX = 0.0F, EscalaXAnt = 0.0F;  ///< twips a sample, now and before the last zoom
     float EscalaXPaso = 0.0F;                 ///< of the cursor bar at layout, of the plot after a zoom
     float OrigenY = 0.0F;
     float FactorZoomYAnt = 1.0F;
     std::int16_t MuestraInicial = 0, MuestraInicialAnt = 0;
-    std::int16_t NivelZoom = 0, NumNiveles = 1;
     float CajaX1 = 0.0F, CajaY1 = 0.0F, CajaX2 = 0.0F, CajaY2 = 0.0F;
     bool ArrastrandoCaja = false;
-    bool ZoomPendiente = false;
     PilaZoom Pila;
 
     /// Back to the whole record on a plot of `ancho` x `alto`: history of one level.
@@ -70,12 +70,8 @@ struct ZoomCaja {
     std::optional<Tramo> Calcula(float ancho, float alto, std::int16_t ultima, float& factorZoomY,
                                  Estrecha& estrecha);
 
-    /// Ends a redraw: a new zoom goes to the end of the history, wherever the user stood in it. Raises 9
-    /// for the thirty-first.
+    /// Ends a redraw: a new zoom goes to the end of the history. Raises 9 for the thirty-first.
     void Guarda(float ancho, float alto, float factorZoomY);
-
-    bool HayAdelante() const { return NivelZoom < NumNiveles - 1; }
-    bool HayAtras() const { return NivelZoom >= 1; }
 
 private:
     std::optional<Tramo> Nueva(float ancho, float alto, std::int16_t ultima, float& factorZoomY,

@@ -19,8 +19,7 @@ const FilaZoom& ZoomCursores::Fila(int fila) const
 
 FilaZoom ZoomCursores::Reinicia(float ancho, std::int16_t ultima)
 {
-    NivelZoom = 0;
-    NumNiveles = 1;
+    Vuelve();
     ZoomPendiente = false;
     const float escala = Single(Divide(double{ancho} - margenes_, ultima));
     return Fila(0) = {1.0F, static_cast<float>(ultima), 1.0F, ancho, escala};
@@ -38,9 +37,7 @@ void ZoomCursores::Guarda(const FilaZoom& fila)
 {
     if (!ZoomPendiente) return;
     Fila(NumNiveles) = fila;
-    NivelZoom = NumNiveles;
-    ++NumNiveles;
-    ZoomPendiente = false;
+    Avanza();
 }
 
 }  // namespace veldix

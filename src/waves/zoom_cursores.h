@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "waves/historia_zoom.h"
+
 namespace veldix {
 
 /// A level of a zoom between the cursors. Samples count from 1.
@@ -14,15 +16,11 @@ struct FilaZoom {
     float EscalaX = 0.0F;  ///< twips a sample of the cursor lines
 };
 
-/// The zoom of a plot that is made between its two cursors, with its history: row 0 is the whole record, and
-/// a new zoom goes behind the last row, wherever the user stood in them.
-class ZoomCursores {
+/// The zoom of a plot that is made between its two cursors, with its history: a row a level.
+class ZoomCursores : public HistoriaZoom {
 public:
     /// `margenes` is what the samples leave free of the plot's width, twips.
     explicit ZoomCursores(float margenes) : margenes_(margenes) {}
-
-    std::int16_t NivelZoom = 0, NumNiveles = 1;
-    bool ZoomPendiente = false;
 
     /// Back to the whole record on a plot of `ancho`: history of one row. Returns that row. Raises 11.
     FilaZoom Reinicia(float ancho, std::int16_t ultima);
@@ -33,9 +31,6 @@ public:
 
     /// Ends a redraw: a new zoom becomes the last row. Raises 9 behind row 30.
     void Guarda(const FilaZoom& fila);
-
-    bool HayAdelante() const { return NivelZoom < NumNiveles - 1; }
-    bool HayAtras() const { return NivelZoom > 0; }
 
     /// Row -1 to 30. Raises 9.
     FilaZoom& Fila(int fila);
