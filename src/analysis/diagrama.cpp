@@ -134,8 +134,9 @@ int FilaDeCanal(const RecordStore& s, int canal)
 LugaresDiagrama ColocaDiagrama(double ancho, double alto)
 {
     constexpr double kAltoDiagrama = 0.64, kFilas = 21.0;
-    constexpr double kHueco = 100.0, kAnchoMarca = 300.0, kRestoTexto = 600.0, kBoton = 600.0;
+    constexpr double kHueco = 100.0, kAnchoMarca = 300.0, kRestoTexto = 600.0, kMayorBoton = 600.0;
     const double tercio = ancho / 3.0, fila = alto / kFilas;
+    const double boton = std::min(kMayorBoton, (tercio - 3.0 * kHueco) / 3.0);
     const auto lugar = [](double x, double y, double w, double h) {
         return Lugar{x, y, std::max(0.0, w), std::max(0.0, h)};
     };
@@ -145,9 +146,9 @@ LugaresDiagrama ColocaDiagrama(double ancho, double alto)
     l.HScroll1 = lugar(0.0, y, tercio, fila);
     l.lblNumero = lugar(0.0, y + fila, tercio, fila);
     const double yBotones = y + 2.25 * fila, altoBoton = 1.5 * fila;
-    l.cmdmas = lugar(kHueco, yBotones, kBoton, altoBoton);
-    l.cmdmenos = lugar(l.cmdmas.Derecha() + kHueco, yBotones, kBoton, altoBoton);
-    l.pctimpresora = lugar(tercio - kBoton, yBotones, kBoton, altoBoton);
+    l.cmdmas = lugar(kHueco, yBotones, boton, altoBoton);
+    l.cmdmenos = lugar(l.cmdmas.Derecha() + kHueco, yBotones, boton, altoBoton);
+    l.pctimpresora = lugar(tercio - boton, yBotones, boton, altoBoton);
     l.lblzoom = lugar(kHueco, yBotones + altoBoton, tercio - kHueco, fila);
     for (std::size_t i = 0; i < l.marcas.size(); ++i) {
         const double yTexto = y + static_cast<double>(i) * fila;

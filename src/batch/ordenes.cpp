@@ -13,7 +13,7 @@
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "shell/ajustes.h"
-#include "shell/rutas.h"
+#include "platform/rutas.h"
 #include "templates/plantilla.h"
 
 namespace veldix {

@@ -18,9 +18,10 @@ Ranuras::Ranura& Ranuras::Sitio(int k)
 
 bool Ranuras::Esta(const std::string& texto, int numero) const
 {
-    const bool porTexto = regla_ == Repetida::HastaPorTexto;
-    const int ultima = porTexto ? activa_ : activa_ - 1;
-    for (int k = 1; k <= ultima; ++k)
+    const bool porTexto = regla_ != Repetida::AntesPorNumero;
+    const int primera = (activa_ - 1) / grupo_ * grupo_ + 1;
+    const int ultima = regla_ == Repetida::HastaPorTexto ? activa_ : activa_ - 1;
+    for (int k = primera; k <= ultima; ++k)
         if (const Ranura& r = (*this)(k); r.texto == texto && (porTexto || Val(r.numero) == numero))
             return true;
     return false;

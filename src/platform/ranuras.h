@@ -18,9 +18,11 @@ public:
     enum class Repetida {
         AntesPorNumero,  ///< same text and number in a slot before the marker
         HastaPorTexto,   ///< same text in a slot before the marker or in its own
+        AntesPorTexto,   ///< same text in a slot before the marker
     };
-    explicit Ranuras(int cuantas, Repetida regla = Repetida::AntesPorNumero)
-        : ranuras_(static_cast<std::size_t>(cuantas)), regla_(regla)
+    /// Slots stand in groups of `grupo`, 0 for a single one; a channel may stand in several of them.
+    explicit Ranuras(int cuantas, Repetida regla = Repetida::AntesPorNumero, int grupo = 0)
+        : ranuras_(static_cast<std::size_t>(cuantas)), regla_(regla), grupo_(grupo > 0 ? grupo : cuantas)
     {
     }
 
@@ -48,6 +50,7 @@ private:
 
     std::vector<Ranura> ranuras_;
     Repetida regla_;
+    int grupo_;
     int activa_ = 1;
 };
 

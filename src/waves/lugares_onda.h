@@ -22,6 +22,8 @@ struct MedidasOnda {
     double altoEtiqueta = 240.0;   ///< of a label
     double anchoZoom = 900.0;      ///< of the zoom button, where there is room
     double anchoReferencia = 0.0;  ///< that the reference label needs
+    double anchoNumero = 900.0;    ///< that the longest sample number needs
+    double anchoTiempo = 1000.0;   ///< that the longest time between cursors needs
 };
 
 /// Places of the controls of a wave window, in twips from the corner of its inside; widths follow the outer

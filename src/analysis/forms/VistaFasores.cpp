@@ -214,6 +214,8 @@ void VistaFasores::Recoloca()
     ColocaControles();
     diagrama_->Ajusta(Picture1->Ancho(), Picture1->Alto());
     PintaEjes();
+    for (LineaLibre* linea : lineas_)
+        linea->hide();  // they stand by the former centre
     Pinta();
     PonPuntero(this, Puntero::Normal);
 }

@@ -88,8 +88,10 @@ void frmFasecuencias::Form_Load()
 Marcas frmFasecuencias::MarcasDe(const Cajas& cajas)
 {
     Marcas marcas;
-    for (int g = 1; g <= store.NumTrifasic; ++g)
-        marcas.push_back(cajas.at(static_cast<std::size_t>(g - 1))->isChecked());
+    for (int g = 1; g <= store.NumTrifasic; ++g) {
+        if (g > static_cast<int>(cajas.size())) Lanza(error::kSubindice);
+        marcas.push_back(cajas[static_cast<std::size_t>(g - 1)]->isChecked());
+    }
     return marcas;
 }
 
@@ -119,6 +121,10 @@ void frmFasecuencias::AbreVistas(bool fases, bool secuencias)
 {
     PonPunteros(this, Puntero::Propio);
     hide();
+    // Views that another chooser's opening left standing go by the mode they were opened in.
+    frmFases::unica.Descarga();
+    frmSecuencias::unica.Descarga();
+    store.FasesCerrando = store.SecuenciasCerrando = false;
     store.ModoFasecuencia = fases && secuencias ? 2 : 1;
     if (fases) frmFases::unica.CargaNueva();
     if (secuencias) frmSecuencias::unica.CargaNueva();

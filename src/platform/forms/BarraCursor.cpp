@@ -1,6 +1,9 @@
 #include "platform/forms/BarraCursor.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTimerEvent>
 
 namespace veldix {
 
@@ -27,6 +30,36 @@ void BarraCursor::keyPressEvent(QKeyEvent* evento)
         default:
             QScrollBar::keyPressEvent(evento);
     }
+}
+
+void BarraCursor::mousePressEvent(QMouseEvent* evento)
+{
+    const QPointer<BarraCursor> vivo(this);
+    ocupada_ = true;
+    QScrollBar::mousePressEvent(evento);
+    if (vivo) ocupada_ = false;
+}
+
+/// A held arrow steps on by a timer. While a message box stands over a step, the release of the button goes
+/// to the box: the bar lets go by itself, or every step behind it would open one more.
+void BarraCursor::timerEvent(QTimerEvent* evento)
+{
+    if (ocupada_) {
+        Suelta();
+        return;
+    }
+    const QPointer<BarraCursor> vivo(this);
+    ocupada_ = true;
+    QScrollBar::timerEvent(evento);
+    if (vivo) ocupada_ = false;
+}
+
+void BarraCursor::Suelta()
+{
+    const QPointF fuera(-1.0, -1.0);
+    QMouseEvent sube(QEvent::MouseButtonRelease, fuera, mapToGlobal(fuera), Qt::LeftButton, Qt::NoButton,
+                     Qt::NoModifier);
+    mouseReleaseEvent(&sube);
 }
 
 }  // namespace veldix

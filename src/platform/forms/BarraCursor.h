@@ -14,6 +14,13 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void timerEvent(QTimerEvent* evento) override;
+
+private:
+    void Suelta();
+
+    bool ocupada_ = false;  ///< what the mouse on the bar has set off is still being served
 };
 
 }  // namespace veldix

@@ -24,12 +24,13 @@ void Pinta(QLabel* punto, bool activa)
 
 }  // namespace
 
-FilasRanura::FilasRanura(int cuantas, QWidget* padre, const QString& juego) : QWidget(padre)
+FilasRanura::FilasRanura(int cuantas, QWidget* padre, const QString& juego, int primera)
+    : QWidget(padre), primera_(primera)
 {
     auto* rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
     rejilla->setColumnStretch(1, 1);
-    for (int k = 1; k <= cuantas; ++k) {
+    for (int k = primera_; k < primera_ + cuantas; ++k) {
         Fila f{new QLabel(this), new QLineEdit(this), new QLabel(this)};
         f.lblpunt->setObjectName(QString("lblpunt%1%2").arg(juego).arg(k));
         f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
@@ -47,17 +48,18 @@ FilasRanura::FilasRanura(int cuantas, QWidget* padre, const QString& juego) : QW
             w->installEventFilter(this);
         }
         connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
-        rejilla->addWidget(f.lblpunt, k - 1, 0);
-        rejilla->addWidget(f.grp, k - 1, 1);
-        rejilla->addWidget(f.lbl, k - 1, 2);
+        rejilla->addWidget(f.lblpunt, k - primera_, 0);
+        rejilla->addWidget(f.grp, k - primera_, 1);
+        rejilla->addWidget(f.lbl, k - primera_, 2);
         filas_.push_back(f);
     }
 }
 
 void FilasRanura::Muestra(const Ranuras& ranuras)
 {
-    for (int k = 1; k <= ranuras.Cuantas(); ++k) {
-        const Fila& f = filas_[static_cast<std::size_t>(k - 1)];
+    int k = primera_ - 1;
+    for (const Fila& f : filas_) {
+        ++k;
         Pinta(f.lblpunt, k == ranuras.Activa());
         f.lbl->setText(Q(ranuras(k).numero));
         f.grp->setText(Q(ranuras(k).texto));

@@ -22,6 +22,8 @@ public:
     FrmMenu();
     static Portador<FrmMenu> unica;
 
+    /// Unloads the choosers, which list channels and groups of the record and template before.
+    static void DescargaSelectores();
     /// A template in force makes these commands available.
     void ActivaPlantilla();
     /// Enables the tools menu where `tools.ini` has tools. Raises what reading it raises.
@@ -62,6 +64,7 @@ private:
     void mnuSalir_Click();
     void mnuOndas_Click();
     void mnuCanalog_Click();
+    void mnuCompanalog_Click();
     void mnuFasores_Click();
     void mnuInform_Click();
     void mnuDigital_Click();

@@ -12,6 +12,7 @@
 #include "shell/forms/frmDirect.h"
 #include "templates/forms/frmPlantilla.h"
 #include "templates/plantilla.h"
+#include "waves/forms/frmNewCompanalog.h"
 #include "waves/forms/frmNewOndas.h"
 
 namespace veldix {
@@ -25,14 +26,14 @@ bool VersionVieja()
     return LeerVersionPlantilla(store) == "ver 1.0";
 }
 
-/// They list channels and groups of the record before.
-void DescargaSelectores()
+}  // namespace
+
+void FrmMenu::DescargaSelectores()
 {
     frmNewOndas::unica.Descarga();
+    frmNewCompanalog::unica.Descarga();
     frmFasecuencias::unica.Descarga();
 }
-
-}  // namespace
 
 /// Entries whose window is not part of the program yet have no handler.
 void FrmMenu::ConectaMenus()
@@ -49,6 +50,7 @@ void FrmMenu::ConectaMenus()
     orden("mnuIngles", &FrmMenu::mnuIngles_Click);
     orden("mnuSalir", &FrmMenu::mnuSalir_Click);
     orden("mnuCanalog", &FrmMenu::mnuCanalog_Click);
+    orden("mnuCompanalog", &FrmMenu::mnuCompanalog_Click);
     orden("mnuFasores", &FrmMenu::mnuFasores_Click);
     orden("mnuInform", &FrmMenu::mnuInform_Click);
     Conecta(mnuOndas, &QMenu::aboutToShow, this, &FrmMenu::mnuOndas_Click);
@@ -58,8 +60,8 @@ void FrmMenu::ConectaMenus()
 
 void FrmMenu::mnuAbrirComtrade_Click()
 {
-    DescargaSelectores();
     const bool abierto = frmAbrirComtrade().Carga();
+    if (abierto) DescargaSelectores();
     if (principal.muestraRegistro) principal.muestraRegistro();
     if (abierto && store.FormatoDat == "ASCII") frmPlantilla::unica.Muestra();
 }
@@ -134,6 +136,11 @@ void FrmMenu::mnuOndas_Click()
 void FrmMenu::mnuCanalog_Click()
 {
     frmNewOndas::unica.Muestra();
+}
+
+void FrmMenu::mnuCompanalog_Click()
+{
+    frmNewCompanalog::unica.Muestra();
 }
 
 /// At most one box; the entries stay enabled in every case with a record.

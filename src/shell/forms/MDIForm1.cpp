@@ -16,6 +16,7 @@
 #include "platform/forms/iconos.h"
 #include "platform/pantalla.h"
 #include "platform/perfil.h"
+#include "platform/rutas.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
@@ -26,8 +27,8 @@
 #include "shell/forms/gasolino_ondas.h"
 #include "shell/forms/traductor.h"
 #include "shell/linea_ordenes.h"
-#include "shell/rutas.h"
 #include "templates/plantilla.h"
+#include "waves/forms/frmVerCmpang.h"
 #include "waves/forms/frmVerOndas.h"
 
 namespace veldix {
@@ -112,6 +113,7 @@ void MDIForm1::LlenaGanchos()
     };
     escena.leeDirectorios = [] { Atrapa(nullptr, [] { LeeDirectorios(store); }); };
     escena.activaPlantilla = [] {
+        FrmMenu::DescargaSelectores();
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
     };
     escena.teclaSalir = [this](int tecla, Qt::KeyboardModifiers estado) { return TeclaSalir(tecla, estado); };
@@ -300,6 +302,9 @@ void MDIForm1::CierraVista(Vista* vista)
         case etiqueta::kVerOndas:
             CierraOndas();
             break;
+        case etiqueta::kVerCmpang:
+            CierraComposiciones();
+            break;
         case etiqueta::kFases:
         case etiqueta::kSecuencias:
             CierraFasores(*vista);
@@ -326,6 +331,14 @@ void MDIForm1::CierraOndas()
             ventana->setEnabled(true);
             ventana->Descarga();
         }
+}
+
+void MDIForm1::CierraComposiciones()
+{
+    for (frmVerCmpang* ventana : store.VentanaComp)
+        if (ventana) ventana->Descarga();
+    store.EnPrimario = false;
+    store.EnSecundario = false;
 }
 
 void MDIForm1::MDIForm_Unload()

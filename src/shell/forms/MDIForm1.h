@@ -60,6 +60,7 @@ private:
     void CierraVista(Vista* vista);
     void CierraFasores(Vista& vista);
     void CierraOndas();
+    void CierraComposiciones();
 
     QMdiArea* area_;
     QWidget* tira_;

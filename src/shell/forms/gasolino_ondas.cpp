@@ -5,8 +5,8 @@
 
 #include "platform/forms/escena.h"
 #include "platform/forms/muestra_pintada.h"
+#include "platform/rutas.h"
 #include "record/record_store.h"
-#include "shell/rutas.h"
 
 namespace veldix {
 

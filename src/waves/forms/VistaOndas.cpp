@@ -70,6 +70,8 @@ MedidasOnda VistaOndas::Medidas(double alto) const
     m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), alto / 2.0);
     m.altoEtiqueta = qMin(ATwips(letra.height()), alto - m.altoBarra);
     m.anchoZoom = anchoZoom_;
+    m.anchoNumero = ATwips(letra.horizontalAdvance(Q(TextoMuestra(32767)) + " "));
+    m.anchoTiempo = ATwips(letra.horizontalAdvance("00000.000 ms "));
     if (store.RevisionCfg == "1997")
         m.anchoReferencia = ATwips(qMax(letra.horizontalAdvance(Q(Rotulo(279, "PRIMARIO"))),
                                         letra.horizontalAdvance(Q(Rotulo(280, "SECUNDARIO")))));

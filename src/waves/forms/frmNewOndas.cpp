@@ -5,33 +5,33 @@
 #include <QVBoxLayout>
 
 #include "platform/enteros.h"
-#include "platform/forms/doble_clic.h"
 #include "platform/forms/escena.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "platform/vista.h"
+#include "waves/forms/frmTodoanalog.h"
 #include "waves/forms/frmVerOndas.h"
 
 namespace veldix {
 
+namespace {
+
+constexpr int kRanuras = 8;
+
+}  // namespace
+
 Portador<frmNewOndas> frmNewOndas::unica;
 
-frmNewOndas::frmNewOndas() : Formulario(escena.principal, Qt::Dialog)
+frmNewOndas::frmNewOndas() : ElectorOndas("frmNewOndas", "Frame3", Ranuras(kRanuras))
 {
-    setObjectName("frmNewOndas");
     setWindowTitle(Q(Rotulo(60, "Visualización de Ondas")));
     CreaControles();
-    Coloca();
+    Dispone();
     LlenaLista();
-    ConectaDobleClic(List1, this, &frmNewOndas::List1_DblClick);
-    Conecta(filas_, &FilasRanura::Click, this, &frmNewOndas::grp_Click);
-    Conecta(filas_, &FilasRanura::DblClick, this, &frmNewOndas::grp_DblClick);
-    Conecta(filas_, &FilasRanura::Change, this, &frmNewOndas::grp_Change);
     Conecta(cmdOK, &QPushButton::clicked, this, &frmNewOndas::cmdOK_Click);
+    Conecta(cmdtodo, &QPushButton::clicked, this, &frmNewOndas::cmdtodo_Click);
     Conecta(cmdSalir, &QPushButton::clicked, this, &frmNewOndas::cmdSalir_Click);
-    filas_->Muestra(ranuras_);
-    List1->setFocus();
     Centra(*this);
 }
 
@@ -41,26 +41,17 @@ void frmNewOndas::CreaControles()
     Frame1->setObjectName("Frame1");
     Frame2 = new QGroupBox(Q(Rotulo(256, "Canales elegidos")), this);
     Frame2->setObjectName("Frame2");
-    List1 = new QListWidget(Frame1);
-    List1->setObjectName("List1");
+    List1->setParent(Frame1);
     List1->setAccessibleName(Frame1->title());
-    filas_ = new FilasRanura(ranuras_.Cuantas(), Frame2);
-    Frame3 = new MarcoReferencia("Frame3", this);
-    const auto boton = [this](const char* nombre, int texto, const char* defecto) {
-        auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
-        b->setObjectName(nombre);
-        return b;
-    };
-    cmdOK = boton("cmdOK", 142, "individualmente");
-    cmdtodo = boton("cmdtodo", 141, "conjuntamente");
-    cmdSalir = boton("cmdSalir", 25, "Cancelar");
-    // The view of all channels in one plot is not part of the program yet.
-    cmdtodo->setEnabled(false);
+    filas_ = CreaFilas(kRanuras, Frame2);
+    cmdOK = CreaBoton("cmdOK", Q(Rotulo(142, "individualmente")));
+    cmdtodo = CreaBoton("cmdtodo", Q(Rotulo(141, "conjuntamente")));
+    cmdSalir = CreaBoton("cmdSalir", Q(Rotulo(25, "Cancelar")));
     PonBotones(cmdOK, cmdSalir);
 }
 
 /// List, slots, and a column of the reference and the buttons, spread down the height of the frames.
-void frmNewOndas::Coloca()
+void frmNewOndas::Dispone()
 {
     (new QVBoxLayout(Frame1))->addWidget(List1);
     auto* ranuras = new QVBoxLayout(Frame2);
@@ -68,7 +59,7 @@ void frmNewOndas::Coloca()
     ranuras->addStretch(1);
     auto* columna = new QVBoxLayout;
     if (store.RevisionCfg != "1997") columna->setSpacing(0);
-    columna->addWidget(Frame3);
+    columna->addWidget(referencia_);
     for (QPushButton* b : {cmdOK, cmdtodo, cmdSalir}) {
         columna->addStretch(1);
         columna->addWidget(b);
@@ -78,42 +69,6 @@ void frmNewOndas::Coloca()
     fila->addWidget(Frame1, 1);
     fila->addWidget(Frame2, 1);
     fila->addLayout(columna);
-}
-
-void frmNewOndas::LlenaLista()
-{
-    for (int r = 1; r <= store.NumCanalAnalog; ++r)
-        List1->addItem(Q(NombreCanal(store, r)));
-    if (List1->count() > 0) List1->setCurrentRow(0);
-}
-
-void frmNewOndas::List1_DblClick()
-{
-    const int indice = List1->currentRow();
-    if (indice < 0) return;
-    if (ranuras_.Pon(U(List1->item(indice)->text()), indice + 1) == Ranuras::Puesta::Llena) {
-        PonPuntero(this, Puntero::Normal);
-        Avisa(Textos(272), Icono::Critico);
-        return;
-    }
-    filas_->Muestra(ranuras_);
-}
-
-void frmNewOndas::grp_Click(int k)
-{
-    ranuras_.Marca(k);
-    filas_->Muestra(ranuras_);
-}
-
-void frmNewOndas::grp_DblClick(int k)
-{
-    ranuras_.Vacia(k);
-    filas_->Muestra(ranuras_);
-}
-
-void frmNewOndas::grp_Change(int k)
-{
-    AvisaSeparadores(ranuras_(k).texto);
 }
 
 /// Marks the channels of the slots in `OndaCanal` and counts the slots. Raises 9 for a channel that the
@@ -137,24 +92,17 @@ void frmNewOndas::cmdOK_Click()
     store.VentanaOnda = Tabla1<frmVerOndas*>(store.NumAnalog);
     const int cuenta = CuentaElegidos();
     if (cuenta == 0) {
-        abriendo_ = false;
-        PonPunteros(this, Puntero::Normal);
-        Avisa(Textos(82), Icono::Critico);
+        Rechaza(82, Icono::Critico);
         return;
     }
     AbreVentanas(cuenta);
-    DescargaGasolinoOndas();
-    PonPunteros(this, Puntero::Normal);
-    Descarga();
+    AcabaApertura();
 }
 
 void frmNewOndas::AbreVentanas(int cuenta)
 {
-    PonPunteros(this, Puntero::Propio);
-    hide();
-    MuestraGasolinoOndas(Q(Textos(285)));
-    PonGasolinoOndas(30);
-    Frame3->Aplica();
+    EmpiezaApertura(30);
+    referencia_->Aplica();
     const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
     store.NumVentanasOnda = static_cast<std::int16_t>(cuenta);
     const std::vector<Lugar> lugares = RejillaVentanas(cuenta, vista);
@@ -191,27 +139,39 @@ void frmNewOndas::MuestraVentanas()
     }
 }
 
-/// Only what was begun by opening is undone; after any other handler's error the dialog stays.
-void frmNewOndas::TrasError()
+/// The dialog is gone from the screen while the slots are counted.
+void frmNewOndas::cmdtodo_Click()
 {
-    if (!abriendo_) return;
-    DescargaGasolinoOndas();
+    abriendo_ = true;
+    hide();
+    PonPunteros(this, Puntero::Propio);
+    const int cuenta = CuentaElegidos();
+    if (cuenta == 0 || cuenta > kRanuras) {
+        show();
+        Rechaza(cuenta == 0 ? 82 : 146, cuenta == 0 ? Icono::Informacion : Icono::Ninguno);
+        return;
+    }
+    EmpiezaApertura(5);
+    referencia_->Aplica();
+    frmTodoanalog::unica.CargaNueva();
+    if (frmTodoanalog* vista = frmTodoanalog::unica.Cargado()) {
+        OcultaMenu();
+        vista->Ventana().showNormal();
+        vista->Plot()->setFocus();
+    }
+    AcabaApertura();
+}
+
+void frmNewOndas::Deshace()
+{
     for (frmVerOndas* ventana : store.VentanaOnda)
         if (ventana) ventana->Descarga();
     store.NumVentanasOnda = 0;
-    PonPunteros(this, Puntero::Normal);
-    MuestraMenu();
-    Descarga();
 }
 
 void frmNewOndas::cmdSalir_Click()
 {
     Descarga();
-}
-
-void frmNewOndas::Form_Unload()
-{
-    PonPunteros(this, Puntero::Normal);
 }
 
 }  // namespace veldix

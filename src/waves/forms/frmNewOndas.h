@@ -1,39 +1,27 @@
 #pragma once
 
-#include <QListWidget>
-#include <QPushButton>
-
-#include "platform/forms/FilasRanura.h"
-#include "platform/forms/formulario.h"
-#include "platform/ranuras.h"
-#include "record/forms/MarcoReferencia.h"
+#include "waves/forms/ElectorOndas.h"
 #include "waves/lugares_onda.h"
 
 namespace veldix {
 
-/// The chooser of up to eight analog channels, each to be shown in a window of its own.
-class frmNewOndas : public Formulario {
+/// The chooser of up to eight analog channels, to be shown each in a window of its own or all in one plot.
+class frmNewOndas : public ElectorOndas {
     Q_OBJECT
 
 public:
     frmNewOndas();
     static Portador<frmNewOndas> unica;
 
-    void TrasError() override;
-
 protected:
-    void Form_Unload() override;
+    void Deshace() override;
 
 private:
     void CreaControles();
-    void Coloca();
-    void LlenaLista();
+    void Dispone();
 
-    void List1_DblClick();
-    void grp_Click(int k);
-    void grp_DblClick(int k);
-    void grp_Change(int k);
     void cmdOK_Click();
+    void cmdtodo_Click();
     void cmdSalir_Click();
 
     int CuentaElegidos();
@@ -42,13 +30,8 @@ private:
     void MuestraVentanas();
 
     QGroupBox *Frame1, *Frame2;
-    MarcoReferencia* Frame3;
-    QListWidget* List1;
     FilasRanura* filas_;
     QPushButton *cmdOK, *cmdtodo, *cmdSalir;
-
-    Ranuras ranuras_{8};     ///< its active slot is the one that takes the next channel
-    bool abriendo_ = false;  ///< cmdOK is at work
 };
 
 }  // namespace veldix

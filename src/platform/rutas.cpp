@@ -1,4 +1,4 @@
-#include "shell/rutas.h"
+#include "platform/rutas.h"
 
 #include "platform/ficheros.h"
 #include "platform/texto.h"

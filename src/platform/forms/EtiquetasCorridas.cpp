@@ -1,0 +1,76 @@
+#include "platform/forms/EtiquetasCorridas.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+
+#include "platform/errores.h"
+#include "platform/forms/escena.h"
+#include "platform/texto.h"
+
+namespace veldix {
+
+EtiquetasCorridas::EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, QObject* padre)
+    : QObject(padre), etiquetas_(std::move(etiquetas)), nombres_(etiquetas_.size()), barra_(barra)
+{
+    for (QLabel* etiqueta : etiquetas_)
+        etiqueta->installEventFilter(this);
+    barra_->setRange(0, 0);
+    connect(barra_, &QScrollBar::valueChanged, this, [this] { Q_EMIT Change(); });
+}
+
+std::size_t EtiquetasCorridas::Sitio(int k) const
+{
+    if (k < 1 || k > Cuantas()) Lanza(error::kSubindice);
+    return static_cast<std::size_t>(k - 1);
+}
+
+QLabel* EtiquetasCorridas::Etiqueta(int k) const
+{
+    return etiquetas_[Sitio(k)];
+}
+
+const std::string& EtiquetasCorridas::Nombre(int k) const
+{
+    return nombres_[Sitio(k)];
+}
+
+void EtiquetasCorridas::Pon(int k, const std::string& texto)
+{
+    Etiqueta(k)->setText(Q(texto));
+}
+
+void EtiquetasCorridas::Recoge(int hasta)
+{
+    int largo = barra_->maximum();
+    for (int k = 1; k <= hasta; ++k) {
+        nombres_[Sitio(k)] = U(Etiqueta(k)->text());
+        largo = std::max(largo, static_cast<int>(NumCaracteres(Nombre(k))));
+    }
+    barra_->setMaximum(largo);
+}
+
+void EtiquetasCorridas::Corre()
+{
+    const auto quita = static_cast<std::size_t>(barra_->value());
+    for (int k = 1; k <= Cuantas(); ++k) {
+        const std::size_t largo = NumCaracteres(Nombre(k));
+        Pon(k, std::string(Derecha(Nombre(k), largo - std::min(largo, quita))));
+    }
+}
+
+void EtiquetasCorridas::Restaura(int k)
+{
+    Pon(k, Nombre(k));
+}
+
+bool EtiquetasCorridas::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() != QEvent::MouseButtonRelease) return false;
+    if (static_cast<QMouseEvent*>(evento)->button() != Qt::LeftButton) return false;
+    const auto sitio = std::find(etiquetas_.begin(), etiquetas_.end(), objeto);
+    if (sitio != etiquetas_.end()) Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
+    return false;
+}
+
+}  // namespace veldix

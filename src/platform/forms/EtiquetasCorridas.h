@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QLabel>
+#include <QScrollBar>
+
+#include <string>
+#include <vector>
+
+namespace veldix {
+
+/// Labels whose texts are longer than they, read sideways with a bar. Labels count from 1.
+class EtiquetasCorridas : public QObject {
+    Q_OBJECT
+
+public:
+    EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, QObject* padre);
+
+    /// Shows a text from its first character on. Raises 9.
+    void Pon(int k, const std::string& texto);
+    /// Keeps the texts that labels 1 to `hasta` now show as their full ones; the bar's range grows to the
+    /// longest, in characters. Raises 9.
+    void Recoge(int hasta);
+
+    /// The full text that is kept of a label. Raises 9.
+    const std::string& Nombre(int k) const;
+    int Cuantas() const { return static_cast<int>(etiquetas_.size()); }
+    /// Raises 9.
+    QLabel* Etiqueta(int k) const;
+
+Q_SIGNALS:
+    /// A label was clicked, 1 to Cuantas.
+    void Click(int k);
+    /// The bar was moved.
+    void Change();
+
+public:
+    /// All labels from the bar's value on; one label from its first character on. Raise 9.
+    void Corre();
+    void Restaura(int k);
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    std::size_t Sitio(int k) const;
+
+    std::vector<QLabel*> etiquetas_;
+    std::vector<std::string> nombres_;
+    QScrollBar* barra_;
+};
+
+}  // namespace veldix

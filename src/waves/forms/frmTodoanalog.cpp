@@ -1,0 +1,210 @@
+#include "waves/forms/frmTodoanalog.h"
+
+#include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
+#include "platform/textos.h"
+#include "record/record_store.h"
+#include "waves/colores.h"
+#include "waves/plot.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr int kEtiquetas = 16;  // two a channel
+constexpr float kMargenes = 150.0F;
+
+QString Fondo(std::uint32_t color)
+{
+    return QString("background-color: #%1; color: black;").arg(color, 6, 16, QChar('0'));
+}
+
+}  // namespace
+
+Portador<frmTodoanalog> frmTodoanalog::unica;
+
+frmTodoanalog::frmTodoanalog()
+    : VistaOndas({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", Icono::Critico,
+                  Icono::Ninguno}),
+      zoom_(kMargenes)
+{
+    CreaControles();
+    Conecta(lblet, &EtiquetasCorridas::Change, this, &frmTodoanalog::HScroll_Nombres_Change);
+    Conecta(lblet, &EtiquetasCorridas::Click, this, &frmTodoanalog::lblet_Click);
+    Atrapa(this, [this] { Form_Load(); });
+}
+
+void frmTodoanalog::CreaControles()
+{
+    HScroll_Nombres = new BarraCursor("HScroll_Nombres", Q(Rotulo(256, "Canales elegidos")), this);
+    std::vector<QLabel*> etiquetas;
+    for (int k = 1; k <= kEtiquetas; ++k) {
+        etiquetas.push_back(CreaEtiqueta(this, QString("lblet%1").arg(k)));
+        etiquetas.back()->setStyleSheet(Fondo(ColorPaleta(k % 2 == 1 ? 14 : 11)));
+        etiquetas.back()->hide();
+    }
+    lblet = new EtiquetasCorridas(etiquetas, HScroll_Nombres, this);
+    lblam = CreaEtiqueta(this, "lblam");
+    lblci = CreaEtiqueta(this, "lblci");
+}
+
+void frmTodoanalog::Form_Load()
+{
+    setWindowTitle(Q(Rotulo(31, "Canales Analógicos")));
+    plot_->setAccessibleName(windowTitle());
+    ultima_ = static_cast<std::int16_t>(store.Muestras.UBound(1));
+    canales_ = CanalesMarcados(store);
+    const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
+    Coloca(0.0, 0.0, vista.ancho, vista.alto);
+    Rehace();
+    Activa = true;
+}
+
+/// A window too small for a plot keeps its controls where they are.
+void frmTodoanalog::ColocaControles()
+{
+    const double bajo = AltoBajoPlot(kBajoTodo);
+    const auto l = ColocaTodo(AnchoVentana(), AltoVentana(), ATwips(Interior().width()), bajo,
+                              static_cast<int>(canales_.size()), Medidas(bajo - 2.0 * kHueco));
+    if (!l) return;
+    {
+        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
+        Pon(plot_, l->Picture1);
+    }
+    ColocaEtiquetas(*l);
+    const std::pair<QWidget*, const Lugar*> lugares[] = {
+        {HScroll1, &l->HScroll1}, {HScroll2, &l->HScroll2}, {HScroll_Nombres, &l->HScroll_Nombres},
+        {lblam, &l->lblam},       {lblci, &l->lblci},       {lblms, &l->lblms},
+        {cmdadel, &l->cmdadel},   {cmdatras, &l->cmdatras}, {pctimpresora, &l->pctimpresora}};
+    for (const auto& [control, lugar] : lugares)
+        Pon(control, *lugar);
+    PonBotonZoom(l->cmdzoom);
+    PonReferencia(l->lbl_PS);
+}
+
+void frmTodoanalog::ColocaEtiquetas(const LugaresTodo& l)
+{
+    for (int k = 1; k <= static_cast<int>(l.lblet.size()); ++k) {
+        QLabel* etiqueta = lblet->Etiqueta(k);
+        Pon(etiqueta, l.lblet[static_cast<std::size_t>(k - 1)]);
+        etiqueta->setWordWrap(l.lineasEtiqueta > 1);
+        etiqueta->setVisible(true);
+    }
+}
+
+/// The whole record, with both cursors on its first sample.
+void frmTodoanalog::Rehace()
+{
+    ColocaControles();
+    const auto w = static_cast<float>(plot_->Ancho());
+    tramo_.reset();
+    const FilaZoom registro = zoom_.Reinicia(w, ultima_);
+    MuestraInicial = registro.MuestraInicial;
+    EscalaX = EscalaCurva = registro.EscalaX;
+    PreparaBarras();
+    PonBarras(1, 1, ultima_);
+    bandas_ = ColocaBandas(store, canales_, static_cast<float>(plot_->Alto()));
+    PonGasolinoOndas(20);
+    PintaMarco();
+    Curvas(1, ultima_, EscalaCurva);
+    PonGasolinoOndas(40);
+    HScroll1_Change();
+    HScroll2_Change();
+}
+
+void frmTodoanalog::PintaMarco()
+{
+    const double w = plot_->Ancho(), h = plot_->Alto(), margen = kMargenBandas;
+    const QRgb color = ColorPaleta(kColorEjes);
+    plot_->Limpia(kFondoPlot);
+    plot_->Linea(margen, margen, margen, h - margen, color);
+    for (int k = 1; k <= static_cast<int>(canales_.size()); ++k)
+        plot_->Linea(margen, bandas_.Cero(k), w - margen, bandas_.Cero(k), color);
+}
+
+void frmTodoanalog::Curvas(int s, int e, float escala)
+{
+    for (std::size_t k = 0; k < canales_.size(); ++k) {
+        const int r = canales_[k];
+        const EscalaPlot lugar{escala, kMargenBandas, bandas_.Cero(static_cast<int>(k) + 1),
+                               bandas_.escalas[k]};
+        const PuntosCurva p = CalculaPuntos(store.Muestras, ColumnaDeCanal(store, r), s, e, lugar);
+        plot_->Poligonal(p.PuntosX, p.PuntosY, ColorCurva(store.Colores, r));
+    }
+}
+
+/// The last sample of a zoom is never joined.
+void frmTodoanalog::Repinta()
+{
+    PintaMarco();
+    if (tramo_)
+        Curvas(static_cast<int>(tramo_->s), static_cast<int>(tramo_->e) - 1, EscalaCurva);
+    else
+        Curvas(1, ultima_, EscalaCurva);
+}
+
+void frmTodoanalog::Redibuja()
+{
+    const auto fila = zoom_.Calcula(Cursor1, Cursor2, static_cast<float>(plot_->Ancho()));
+    if (!fila) {
+        PonPuntero(this, Puntero::Normal);
+        Avisa(Textos(76), Icono::Informacion);
+        return;
+    }
+    tramo_ = fila;
+    EscalaX = fila->EscalaX;
+    MuestraInicial = fila->MuestraInicial;
+    EscalaCurva = EscalaTramo(fila->Ancho, fila->s, fila->e);
+    bandas_ = ColocaBandas(store, canales_, static_cast<float>(plot_->Alto()));
+    Repinta();
+    const int s = static_cast<int>(fila->s), e = static_cast<int>(fila->e);
+    PonBarras(s, s, e);
+    HScroll1_Change();
+    HScroll2_Change();
+    zoom_.Guarda(*fila);
+}
+
+double frmTodoanalog::XCursor(float cursor) const
+{
+    return (static_cast<double>(cursor) - MuestraInicial) * EscalaX + kMargenBandas;
+}
+
+/// Values are those of the channel's row, curves those of its number: the two differ where a template
+/// renumbers channels. The last name is kept only when the second cursor moves.
+void frmTodoanalog::PonTextos(int cursor)
+{
+    const int m1 = HScroll1->value(), m2 = HScroll2->value();
+    PonTexto(cursor == 1 ? lblam : lblci, Q(TextoMuestra(cursor == 1 ? m1 : m2)));
+    for (std::size_t k = 0; k < canales_.size(); ++k) {
+        const int r = canales_[k], par = 2 * static_cast<int>(k) + 1;
+        const std::string nombre = EtiquetaCanal(store, r) + ": ", &unidades = store.Canales(r).Unidades;
+        lblet->Pon(par, nombre + TextoValor(store.Muestras(m1, r), unidades));
+        lblet->Pon(par + 1, nombre + TextoValor(store.Muestras(m2, r), unidades));
+    }
+    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
+    lblet->Recoge(cursor == 1 ? kEtiquetas - 1 : kEtiquetas);
+}
+
+void frmTodoanalog::cmdzoom_Click()
+{
+    zoom_.ZoomPendiente = true;
+    const PunteroEspera espera(*this);
+    Redibuja();
+}
+
+void frmTodoanalog::HScroll_Nombres_Change()
+{
+    lblet->Corre();
+}
+
+void frmTodoanalog::lblet_Click(int k)
+{
+    lblet->Restaura(k);
+}
+
+void frmTodoanalog::Form_Unload()
+{
+    MuestraMenu();
+}
+
+}  // namespace veldix

@@ -1,0 +1,243 @@
+#include "waves/forms/frmVerCmpang.h"
+
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
+#include "platform/forms/iconos.h"
+#include "platform/numeros.h"
+#include "platform/rutas.h"
+#include "platform/textos.h"
+#include "record/record_store.h"
+#include "waves/colores.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr int kPantallaEstrecha = 800;  // pixels
+
+QString NumeroRgb(std::uint32_t color)
+{
+    return QString("#%1").arg(color, 6, 16, QChar('0'));
+}
+
+/// A button whose face is the grey picture, for a caption alone; without the picture a plain one.
+void PonGris(QPushButton* boton, const QString& texto)
+{
+    static const char* const kCara =
+        "QPushButton { background-image: url(\"%1\"); border: 1px outset palette(dark); color: black; }"
+        "QPushButton:pressed, QPushButton:focus { border-style: inset; }";
+    boton->setIcon(QIcon());
+    boton->setText(texto);
+    const std::string ruta = RutaIconos(store.RutaPrograma, "gris.bmp");
+    if (ExisteFichero(ruta)) boton->setStyleSheet(QString(kCara).arg(Q(ruta)));
+}
+
+}  // namespace
+
+frmVerCmpang::frmVerCmpang()
+    : VistaCaja({"frmVerCmpang", etiqueta::kVerCmpang, "Picture1", "Lineamar", "Linecian", Icono::Informacion,
+                 Icono::Informacion},
+                Icono::Informacion)
+{
+    CreaControles();
+    Conecta(lblam, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Amar_Change);
+    Conecta(lblci, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Cian_Change);
+    Conecta(lblam, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblam_Click);
+    Conecta(lblci, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblci_Click);
+}
+
+void frmVerCmpang::CreaControles()
+{
+    marcamar = CreaEtiqueta(this, "marcamar");
+    marcamar->setStyleSheet("background-color: " + NumeroRgb(kCursorAmarillo));
+    marcaci = CreaEtiqueta(this, "marcaci");
+    marcaci->setStyleSheet("background-color: " + NumeroRgb(kCursorCian));
+    HScroll_Amar = new BarraCursor("HScroll_Amar", "Cursor 1, " + Q(Rotulo(256, "Canales elegidos")), this);
+    HScroll_Cian = new BarraCursor("HScroll_Cian", "Cursor 2, " + Q(Rotulo(256, "Canales elegidos")), this);
+    lblam = CreaColumna("lblam", HScroll_Amar);
+    lblci = CreaColumna("lblci", HScroll_Cian);
+    Label1 = CreaEtiqueta(this, "Label1");
+    Label2 = CreaEtiqueta(this, "Label2");
+}
+
+EtiquetasCorridas* frmVerCmpang::CreaColumna(const char* nombre, BarraCursor* barra)
+{
+    std::vector<QLabel*> etiquetas;
+    for (int k = 1; k <= kCanalesComp; ++k) {
+        etiquetas.push_back(CreaEtiqueta(this, QString(nombre) + QString::number(k)));
+        etiquetas.back()->hide();
+    }
+    return new EtiquetasCorridas(etiquetas, barra, this);
+}
+
+void frmVerCmpang::Form_activo(const Lugar& lugar, int ventana, int posicion)
+{
+    constexpr const char* kTitulos[] = {"Ventana 1", "Ventana 2", "Ventana 3"};
+    Atrapa(this, [&] {
+        fila_ = ventana;
+        setWindowTitle(Q(Rotulo(64 + posicion, kTitulos[posicion - 1])));
+        plot_->setAccessibleName(windowTitle());
+        ultima_ = static_cast<std::int16_t>(store.Muestras.UBound(1));
+        Coloca(lugar.izquierda, lugar.arriba, lugar.ancho, lugar.alto);
+        gris_ = store.NumVentanasComp >= kVentanasComp;
+        if (gris_) {
+            PonGris(cmdzoom, Q(Rotulo(61, "Zoom")));
+            PonGris(cmdadel, ">>");
+            PonGris(cmdatras, "<<");
+        }
+        ColocaControles();
+    });
+}
+
+void frmVerCmpang::Composicion(int ventana)
+{
+    Atrapa(this, [&] {
+        fila_ = ventana;
+        canales_ = CanalesDeVentana(store, ventana);
+        columnas_.clear();
+        for (const int r : canales_)
+            columnas_.push_back(ColumnaDeCanal(store, r));
+        Activa = true;
+        Dibuja();
+    });
+}
+
+void frmVerCmpang::Rehace()
+{
+    ColocaControles();
+    Dibuja();
+}
+
+/// The whole record, the labels of sample 1.
+void frmVerCmpang::Dibuja()
+{
+    Reinicia();
+    PintaEjes();
+    EscalaY = EscalaComposicion(store, canales_, static_cast<float>(plot_->Alto()));
+    PintaRegistro();
+    PonLinea(linea1_, XCursor(Cursor1));
+    PonLinea(linea2_, XCursor(Cursor2));
+    Label1->setText(" No.: 1");
+    Label2->setText(" No.: 1");
+    PonEtiquetas(lblam, 1);
+    PonEtiquetas(lblci, 1);
+    PonTexto(lblms, "0.000 ms");
+}
+
+/// A window too small for a plot keeps its controls where they are.
+void frmVerCmpang::ColocaControles()
+{
+    const double bajo = AltoBajoPlot(kBajoComp);
+    TamanoComp t{AnchoVentana(), AltoVentana(), ATwips(Interior().width()), bajo};
+    t.ventanas = store.NumVentanasComp;
+    t.estrecha = AnchoPixeles({store.AnchoPantalla, store.AltoPantalla}) <= kPantallaEstrecha;
+    PreparaBarras();
+    const auto l = ColocaComposicion(t, Medidas(bajo - 2.0 * kHueco));
+    if (!l) return;
+    {
+        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
+        Pon(plot_, l->Picture1);
+    }
+    const std::pair<QWidget*, const Lugar*> lugares[] = {{HScroll1, &l->HScroll1},
+                                                         {HScroll2, &l->HScroll2},
+                                                         {Label1, &l->Label1},
+                                                         {Label2, &l->Label2},
+                                                         {lblms, &l->lblms}};
+    for (const auto& [control, lugar] : lugares)
+        Pon(control, *lugar);
+    ColocaColumna(l->amarilla, marcamar, lblam, HScroll_Amar);
+    ColocaColumna(l->cian, marcaci, lblci, HScroll_Cian);
+    ColocaBotones(*l);
+    PonReferencia(l->lbl_PS);
+}
+
+/// Labels too low for the letters of the window get smaller ones.
+void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasCorridas* textos,
+                                 BarraCursor* barra)
+{
+    Pon(marca, c.marca);
+    Pon(barra, c.barra);
+    QFont letra = font();
+    const int alto = APixeles(c.etiquetas[0].alto), pide = QFontMetrics(letra).height();
+    if (alto < pide) letra.setPixelSize(qMax(7, QFontInfo(letra).pixelSize() * alto / pide));
+    for (int k = 1; k <= textos->Cuantas(); ++k) {
+        QLabel* etiqueta = textos->Etiqueta(k);
+        Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);
+        etiqueta->setFont(letra);
+        etiqueta->setWordWrap(alto >= 2 * pide);
+    }
+}
+
+void frmVerCmpang::ColocaBotones(const LugaresComp& l)
+{
+    if (gris_)
+        Pon(cmdzoom, l.cmdzoom);
+    else
+        PonBotonZoom(l.cmdzoom);
+    Pon(cmdadel, l.cmdadel);
+    Pon(cmdatras, l.cmdatras);
+    Pon(pctimpresora, l.pctimpresora);
+}
+
+void frmVerCmpang::Curvas(int s, int e)
+{
+    for (std::size_t k = 0; k < canales_.size(); ++k) {
+        const PuntosCurva p = CalculaPuntos(store.Muestras, columnas_[k], s, e, Escala());
+        plot_->Poligonal(p.PuntosX, p.PuntosY, ColorComposicion(store, static_cast<int>(k) + 1));
+    }
+}
+
+/// A label a curve, with the curve's colour at its edge.
+void frmVerCmpang::PonEtiquetas(EtiquetasCorridas* textos, int muestra)
+{
+    for (std::size_t k = 0; k < canales_.size(); ++k) {
+        const int r = canales_[k], n = static_cast<int>(k) + 1;
+        QLabel* etiqueta = textos->Etiqueta(n);
+        if (etiqueta->isHidden()) {
+            etiqueta->setStyleSheet("border-left: 5px solid " + NumeroRgb(ColorComposicion(store, n)));
+            etiqueta->setVisible(true);
+        }
+        textos->Pon(n, EtiquetaCanal(store, r) + ": " +
+                           TextoValor(store.Muestras(muestra, columnas_[k]), store.Canales(r).Unidades));
+    }
+    textos->Recoge(kCanalesComp);
+}
+
+void frmVerCmpang::PonTextos(int cursor)
+{
+    const int muestra = (cursor == 1 ? HScroll1 : HScroll2)->value();
+    (cursor == 1 ? Label1 : Label2)->setText(" No.: " + Q(FormaDelimitada(muestra)));
+    PonEtiquetas(cursor == 1 ? lblam : lblci, muestra);
+    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
+}
+
+void frmVerCmpang::HScroll_Amar_Change()
+{
+    lblam->Corre();
+}
+void frmVerCmpang::HScroll_Cian_Change()
+{
+    lblci->Corre();
+}
+void frmVerCmpang::lblam_Click(int k)
+{
+    lblam->Restaura(k);
+}
+void frmVerCmpang::lblci_Click(int k)
+{
+    lblci->Restaura(k);
+}
+
+void frmVerCmpang::Form_Unload()
+{
+    Intenta([this] {
+        if (store.VentanaComp(fila_) != this) return;
+        store.VentanaComp(fila_) = nullptr;
+        store.MatrizComp(fila_, store.NumAnalog + 1) = 0;
+    });
+    --store.NumVentanasComp;
+    if (store.NumVentanasComp == 0) MuestraMenu();
+}
+
+}  // namespace veldix
