@@ -18,14 +18,14 @@ Huecos HuecosDe(int ventanas)
     return ventanas == 2 ? Huecos{50.0, 100.0} : Huecos{295.0, 100.0};
 }
 
-ColumnaComp ColocaColumna(const Lugar& hueco, double altoBarra)
+ColumnaComp ColocaColumna(const Lugar& hueco, double altoBarra, int curvas)
 {
     ColumnaComp c;
     const double barra = std::min(altoBarra, hueco.alto / 4.0);
     c.marca = {hueco.izquierda, hueco.arriba, hueco.ancho, kAltoMarca};
     c.barra = {hueco.izquierda, hueco.Abajo() - barra, hueco.ancho, barra};
-    const double alto = std::max(0.0, (hueco.alto - kAltoMarca - barra) / kCanalesComp);
-    for (std::size_t k = 0; k < c.etiquetas.size(); ++k)
+    const double alto = std::max(0.0, (hueco.alto - kAltoMarca - barra) / std::max(1, curvas));
+    for (std::size_t k = 0; k < c.etiquetas.size() && static_cast<int>(k) < curvas; ++k)
         c.etiquetas[k] = {hueco.izquierda, c.marca.Abajo() + static_cast<double>(k) * alto, hueco.ancho,
                           alto};
     return c;
@@ -64,8 +64,8 @@ std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasO
     const Huecos h = HuecosDe(t.ventanas);
     const double x = l.Picture1.Derecha() + kHueco, ancho = std::max(0.0, t.anchoInterior - x - kHueco);
     const double mitad = (l.Picture1.alto + t.bajo) / 2.0;
-    l.amarilla = ColocaColumna({x, 0.0, ancho, mitad - 30.0}, m.altoBarra);
-    l.cian = ColocaColumna({x, mitad, ancho, mitad - 30.0}, m.altoBarra);
+    l.amarilla = ColocaColumna({x, 0.0, ancho, mitad - 30.0}, m.altoBarra, t.curvas);
+    l.cian = ColocaColumna({x, mitad, ancho, mitad - 30.0}, m.altoBarra, t.curvas);
     ColocaCursores(l, l.Picture1.alto + h.vertical, h.lateral, m);
     const double alto = m.altoBarra + 10.0 + m.altoEtiqueta;
     ColocaBotones(l, h.lateral, alto, t.estrecha && t.ventanas >= 3, m.anchoZoom);

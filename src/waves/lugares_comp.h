@@ -34,6 +34,7 @@ struct TamanoComp {
     double bajo = 0.0;               ///< height that the frame leaves below the plot
     int ventanas = 1;                ///< composition windows in use, 1 to 3
     bool estrecha = false;           ///< a screen of at most 800 pixels
+    int curvas = kCanalesComp;       ///< whose labels share a column
 };
 
 /// The layout; gaps follow the count of windows. Nothing where the plot would have no size.

@@ -45,6 +45,7 @@ void EtiquetasCorridas::Recoge(int hasta)
     int largo = barra_->maximum();
     for (int k = 1; k <= hasta; ++k) {
         nombres_[Sitio(k)] = U(Etiqueta(k)->text());
+        Etiqueta(k)->setToolTip(Etiqueta(k)->text());
         largo = std::max(largo, static_cast<int>(NumCaracteres(Nombre(k))));
     }
     barra_->setMaximum(largo);

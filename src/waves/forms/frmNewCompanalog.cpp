@@ -40,13 +40,15 @@ void frmNewCompanalog::Dispone()
     List1->setAccessibleName(canales->title());
     (new QVBoxLayout(canales))->addWidget(List1);
     auto* rejilla = new QGridLayout(this);
-    rejilla->addWidget(canales, 0, 0, 1, 2);
+    rejilla->addWidget(canales, 0, 0);
     rejilla->setColumnStretch(0, 1);
     rejilla->setColumnStretch(1, 1);
     for (int j = 1; j <= kVentanasComp; ++j) {
         auto* marco = new QGroupBox(Q(Rotulo(64 + j, kTitulos[j - 1])), this);
         marco->setObjectName(QString("Frame%1").arg(j));
-        (new QVBoxLayout(marco))->addWidget(CreaFilas(kCanalesComp, marco, (j - 1) * kCanalesComp + 1));
+        auto* columna = new QVBoxLayout(marco);
+        columna->addWidget(CreaFilas(kCanalesComp, marco, (j - 1) * kCanalesComp + 1));
+        columna->addStretch(1);
         rejilla->addWidget(marco, j / 2, j % 2 == 1 ? 1 : 0);
     }
     auto* pie = new QHBoxLayout;

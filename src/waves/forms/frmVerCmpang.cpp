@@ -14,7 +14,8 @@ namespace veldix {
 
 namespace {
 
-constexpr int kPantallaEstrecha = 800;  // pixels
+constexpr int kPantallaEstrecha = 800, kMenorLinea = 11;  // pixels
+constexpr int kLineas = 3;                                // of a name and its value
 
 QString NumeroRgb(std::uint32_t color)
 {
@@ -76,6 +77,7 @@ void frmVerCmpang::Form_activo(const Lugar& lugar, int ventana, int posicion)
     constexpr const char* kTitulos[] = {"Ventana 1", "Ventana 2", "Ventana 3"};
     Atrapa(this, [&] {
         fila_ = ventana;
+        canales_ = CanalesDeVentana(store, ventana);
         setWindowTitle(Q(Rotulo(64 + posicion, kTitulos[posicion - 1])));
         plot_->setAccessibleName(windowTitle());
         ultima_ = static_cast<std::int16_t>(store.Muestras.UBound(1));
@@ -131,6 +133,7 @@ void frmVerCmpang::ColocaControles()
     const double bajo = AltoBajoPlot(kBajoComp);
     TamanoComp t{AnchoVentana(), AltoVentana(), ATwips(Interior().width()), bajo};
     t.ventanas = store.NumVentanasComp;
+    t.curvas = static_cast<int>(canales_.size());
     t.estrecha = AnchoPixeles({store.AnchoPantalla, store.AltoPantalla}) <= kPantallaEstrecha;
     PreparaBarras();
     const auto l = ColocaComposicion(t, Medidas(bajo - 2.0 * kHueco));
@@ -152,7 +155,8 @@ void frmVerCmpang::ColocaControles()
     PonReferencia(l->lbl_PS);
 }
 
-/// Labels too low for the letters of the window get smaller ones.
+/// Labels too low for the letters of the window get smaller ones, in several lines where these stay
+/// legible.
 void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasCorridas* textos,
                                  BarraCursor* barra)
 {
@@ -160,12 +164,13 @@ void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasC
     Pon(barra, c.barra);
     QFont letra = font();
     const int alto = APixeles(c.etiquetas[0].alto), pide = QFontMetrics(letra).height();
-    if (alto < pide) letra.setPixelSize(qMax(7, QFontInfo(letra).pixelSize() * alto / pide));
+    const int linea = alto >= kLineas * kMenorLinea ? alto / kLineas : alto;
+    if (linea < pide) letra.setPixelSize(qMax(7, QFontInfo(letra).pixelSize() * linea / pide));
     for (int k = 1; k <= textos->Cuantas(); ++k) {
         QLabel* etiqueta = textos->Etiqueta(k);
         Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);
         etiqueta->setFont(letra);
-        etiqueta->setWordWrap(alto >= 2 * pide);
+        etiqueta->setWordWrap(linea < alto);
     }
 }
 
@@ -195,7 +200,8 @@ void frmVerCmpang::PonEtiquetas(EtiquetasCorridas* textos, int muestra)
         const int r = canales_[k], n = static_cast<int>(k) + 1;
         QLabel* etiqueta = textos->Etiqueta(n);
         if (etiqueta->isHidden()) {
-            etiqueta->setStyleSheet("border-left: 5px solid " + NumeroRgb(ColorComposicion(store, n)));
+            etiqueta->setStyleSheet("QLabel { border: 0px; padding-left: 2px; border-left: 5px solid " +
+                                    NumeroRgb(ColorComposicion(store, n)) + "; }");
             etiqueta->setVisible(true);
         }
         textos->Pon(n, EtiquetaCanal(store, r) + ": " +
