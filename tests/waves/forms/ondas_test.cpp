@@ -1,109 +1,28 @@
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QTest>
-
-#include "platform/forms/escena.h"
-#include "platform/textos.h"
-#include "support/soporte.h"
 #include "waves/forms/frmNewOndas.h"
 #include "waves/forms/frmVerOndas.h"
+#include "waves/forms/registro_ondas.h"
 
 namespace veldix {
 namespace {
 
-int Valor(int i, int c)
-{
-    return c * ((i * 7) % 41 - 20);
-}
+using prueba::Valor;
 
-/// A main window with its area, the menu as a flag, and a made-up record of channels I1, I2, ...
-class OndasTest : public testing::Test {
+class OndasTest : public prueba::RegistroOndas {
 protected:
-    OndasTest()
-    {
-        store = RecordStore{};
-        store.AnchoPantalla = 15360.0, store.AltoPantalla = 11520.0;
-        CargaTextos(VELDIX_SOURCE "/runtime/VELDIX/ini/vdotro.ini");
-        principal.setCentralWidget(area);
-        principal.resize(1024, 768);
-        principal.show();
-        escena.principal = &principal;
-        escena.area = area;
-        escena.muestraMenu = [this] { ++muestras, menu = true; };
-        escena.ocultaMenu = [this] { menu = false; };
-        escena.muestraGasolinoOndas = [this](const QString& t) { avance += "[" + U(t); };
-        escena.ponGasolinoOndas = [this](int v) { avance += " " + std::to_string(v); };
-        escena.descargaGasolinoOndas = [this] { avance += "]"; };
-        Registro(960);
-    }
-    ~OndasTest() override
-    {
-        frmNewOndas::unica.Descarga();
-        for (frmVerOndas* v : area->findChildren<frmVerOndas*>())
-            v->Descarga();
-        Asienta();
-        escena = Escena{};
-        store = RecordStore{};
-        VaciaTextos();
-    }
-
-    /// Nine channels; rows 2 and 3 of the table are columns 3 and 2.
-    static void Registro(int ultima)
-    {
-        constexpr int kCanales = 9;
-        store.NumCanales = store.NumAnalog = store.NumCanalAnalog = kCanales;
-        store.RevisionCfg = "1991";
-        store.FrecLinea = 50;
-        store.FrecMuestras = store.UltimaMuestra = Tabla1<std::int16_t>(1);
-        store.FrecMuestras(1) = 1000;
-        store.UltimaMuestra(1) = static_cast<std::int16_t>(ultima);
-        store.Canales = Tabla1<FilaCanal>(kCanales);
-        store.Muestras = store.MuestrasSec = store.MuestrasPrim = Tabla2<float>(ultima, kCanales);
-        for (int c = 1; c <= kCanales; ++c) {
-            const int columna = c == 2 || c == 3 ? 5 - c : c;
-            store.Canales(c) = {std::to_string(columna), "I" + std::to_string(c), "", "A"};
-            for (int i = 1; i <= ultima; ++i) {
-                store.Muestras(i, c) = store.MuestrasSec(i, c) = static_cast<float>(Valor(i, c));
-                store.MuestrasPrim(i, c) = static_cast<float>(2 * Valor(i, c));
-            }
-        }
-        ReiniciaRegistro(store);
-    }
-
-    static void Asienta()
-    {
-        QTest::qWait(0);
-        QTest::qWait(0);
-    }
-    /// A control of a window, or of the chooser.
     template <class Control>
-    static Control* Da(const std::string& nombre, QWidget* form = nullptr)
+    static Control* Da(const std::string& nombre, QWidget* form = frmNewOndas::unica.Cargado())
     {
-        if (!form) form = frmNewOndas::unica.Cargado();
-        Control* c = form ? form->findChild<Control*>(Q(nombre)) : nullptr;
-        if (!c) throw std::runtime_error("no control " + nombre);
-        return c;
+        return RegistroOndas::Da<Control>(nombre, form);
     }
-    static std::string Texto(const char* etiqueta, QWidget* form)
+    static void Pulsa(const char* boton, QWidget* form = frmNewOndas::unica.Cargado())
     {
-        return U(Da<QLabel>(etiqueta, form)->text());
-    }
-    static void Pulsa(const char* boton, QWidget* form = nullptr)
-    {
-        QTest::mouseClick(Da<QPushButton>(boton, form), Qt::LeftButton);
-        Asienta();
+        RegistroOndas::Pulsa(boton, form);
     }
     /// Opens the chooser, where it is not, and double-clicks rows of its list.
     static void Elige(std::initializer_list<int> filas)
     {
         if (!frmNewOndas::unica.Cargado()) frmNewOndas::unica.CargaNueva().show();
-        auto* lista = Da<QListWidget>("List1");
-        for (const int r : filas) {
-            lista->scrollToItem(lista->item(r - 1));
-            const QPoint p = lista->visualItemRect(lista->item(r - 1)).center();
-            QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, p);
-            QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, p);
-        }
+        RegistroOndas::Elige(frmNewOndas::unica.Cargado(), filas);
     }
     static std::string Numeros()
     {
@@ -121,32 +40,6 @@ protected:
         if (!v) throw std::runtime_error("no window");
         return v;
     }
-    auto Abiertas() const { return std::ranges::count_if(area->subWindowList(), &QWidget::isVisible); }
-    static void Arrastra(frmVerOndas* v, QPoint a, QPoint b)
-    {
-        QTest::mousePress(v->Plot(), Qt::LeftButton, {}, a);
-        QTest::mouseMove(v->Plot(), b);
-        QTest::mouseRelease(v->Plot(), Qt::LeftButton, {}, b);
-        Asienta();
-    }
-    void EsperaAmpliar(bool si = true)
-    {
-        cajas.Espera("¿Desea ampliar la zona marcada?", Icono::Pregunta, Botones::AceptarCancelar, si);
-    }
-    void Amplia(frmVerOndas* v, QPoint a, QPoint b)
-    {
-        Pulsa("cmdzoom", v);
-        EsperaAmpliar();
-        Arrastra(v, a, b);
-    }
-    /// Two resizes, back to the size that it has.
-    static void Estira(frmVerOndas* v)
-    {
-        for (const int pixeles : {-1, 1}) {
-            v->Ventana().resize(v->Ventana().width() + pixeles, v->Ventana().height());
-            Asienta();
-        }
-    }
     /// First sample of the bars, both cursors, last sample, and the zoom's level and count of levels.
     using Vistos = std::vector<int>;
     static Vistos Estado(frmVerOndas* v)
@@ -160,15 +53,7 @@ protected:
     {
         return qRound((15.0 * pixel / v->Plot()->Ancho() - 0.02) * 1000);
     }
-    static double LineaX(const char* nombre, frmVerOndas* v) { return 15.0 * Da<LineaSobre>(nombre, v)->x(); }
 
-    QMainWindow principal;
-    QMdiArea* area = new QMdiArea;
-    prueba::RespondeCajas cajas;
-    prueba::Separa separa{",", "."};
-    std::string avance;
-    bool menu = true;
-    int muestras = 0;
     const Vistos todo{1, 1, 1, 960, 0, 1};
 };
 

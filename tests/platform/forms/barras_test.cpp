@@ -1,0 +1,60 @@
+#include <QEventLoop>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/forms/BarraCursor.h"
+#include "platform/forms/EtiquetasCorridas.h"
+#include "support/soporte.h"
+
+namespace veldix {
+namespace {
+
+TEST(BarraCursor, AHeldArrowLetsGoWhileABoxStandsOverItsStep)
+{
+    BarraCursor barra("HScroll1", "Cursor 1", nullptr);
+    barra.setRange(1, 1000);
+    barra.resize(300, 20);
+    barra.show();
+    int pasos = 0;
+    QObject::connect(&barra, &QScrollBar::valueChanged, &barra, [&] {
+        if (++pasos != 1) return;
+        QEventLoop caja;  // the box, which swallows the release of the button
+        QTimer::singleShot(900, &caja, &QEventLoop::quit);
+        caja.exec();
+    });
+    QTest::mousePress(&barra, Qt::LeftButton, {}, QPoint(295, 10));
+    EXPECT_EQ(pasos, 1);
+    QTest::qWait(300);
+    EXPECT_EQ(pasos, 1);
+    EXPECT_EQ(barra.value(), 2);
+    QTest::mouseClick(&barra, Qt::LeftButton, {}, QPoint(295, 10));
+    EXPECT_EQ(barra.value(), 3);
+}
+
+TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
+{
+    QWidget marco;
+    auto *una = new QLabel(&marco), *otra = new QLabel(&marco);
+    BarraCursor barra("HScroll_Nombres", "", &marco);
+    EtiquetasCorridas e({una, otra}, &barra, &marco);
+    QObject::connect(&e, &EtiquetasCorridas::Change, &e, &EtiquetasCorridas::Corre);
+    QObject::connect(&e, &EtiquetasCorridas::Click, &e, &EtiquetasCorridas::Restaura);
+    e.Pon(1, "Tensión 3€");
+    e.Pon(2, "b");
+    e.Recoge(2);
+    EXPECT_EQ(barra.maximum(), 10);
+    barra.setValue(6);
+    EXPECT_EQ(una->text(), QString::fromUtf8("n 3€"));
+    EXPECT_EQ(otra->text(), "");
+    QTest::mouseClick(una, Qt::LeftButton);
+    EXPECT_EQ(una->text(), QString::fromUtf8("Tensión 3€"));
+    e.Pon(1, "corto");
+    e.Recoge(1);
+    EXPECT_EQ(barra.maximum(), 10);
+    barra.setValue(0);
+    EXPECT_TRUE(una->text() == "corto" && otra->text() == "b");
+    EXPECT_EQ(prueba::NumeroDeError([&] { e.Pon(3, ""); }), error::kSubindice);
+}
+
+}  // namespace
+}  // namespace veldix

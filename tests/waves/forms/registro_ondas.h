@@ -1,0 +1,147 @@
+#pragma once
+
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+
+#include "platform/forms/escena.h"
+#include "platform/textos.h"
+#include "record/record_store.h"
+#include "support/soporte.h"
+#include "waves/forms/VistaOndas.h"
+
+namespace veldix::prueba {
+
+inline int Valor(int i, int c)
+{
+    return c * ((i * 7) % 41 - 20);
+}
+
+/// A main window with its area, the menu as a flag, and a made-up record of channels I1, I2, ...
+class RegistroOndas : public testing::Test {
+protected:
+    RegistroOndas()
+    {
+        store = RecordStore{};
+        store.AnchoPantalla = 15360.0, store.AltoPantalla = 11520.0;
+        CargaTextos(VELDIX_SOURCE "/runtime/VELDIX/ini/vdotro.ini");
+        principal.setCentralWidget(area);
+        principal.resize(1024, 768);
+        principal.show();
+        escena.principal = &principal;
+        escena.area = area;
+        escena.muestraMenu = [this] { ++muestras, menu = true; };
+        escena.ocultaMenu = [this] { menu = false; };
+        escena.muestraGasolinoOndas = [this](const QString& t) { avance += "[" + U(t); };
+        escena.ponGasolinoOndas = [this](int v) { avance += " " + std::to_string(v); };
+        escena.descargaGasolinoOndas = [this] { avance += "]"; };
+        Registro(960);
+    }
+    ~RegistroOndas() override
+    {
+        for (Formulario* f : principal.findChildren<Formulario*>())
+            f->Descarga();
+        Asienta();
+        escena = Escena{};
+        store = RecordStore{};
+        VaciaTextos();
+    }
+
+    /// Nine channels; rows 2 and 3 of the table are columns 3 and 2.
+    static void Registro(int ultima)
+    {
+        constexpr int kCanales = 9;
+        store.NumCanales = store.NumAnalog = store.NumCanalAnalog = kCanales;
+        store.RevisionCfg = "1991";
+        store.FrecLinea = 50;
+        store.FrecMuestras = store.UltimaMuestra = Tabla1<std::int16_t>(1);
+        store.FrecMuestras(1) = 1000;
+        store.UltimaMuestra(1) = static_cast<std::int16_t>(ultima);
+        store.Canales = Tabla1<FilaCanal>(kCanales);
+        store.Muestras = store.MuestrasSec = store.MuestrasPrim = Tabla2<float>(ultima, kCanales);
+        for (int c = 1; c <= kCanales; ++c) {
+            const int columna = c == 2 || c == 3 ? 5 - c : c;
+            store.Canales(c) = {std::to_string(columna), "I" + std::to_string(c), "", "A"};
+            for (int i = 1; i <= ultima; ++i) {
+                store.Muestras(i, c) = store.MuestrasSec(i, c) = static_cast<float>(Valor(i, c));
+                store.MuestrasPrim(i, c) = static_cast<float>(2 * Valor(i, c));
+            }
+        }
+        ReiniciaRegistro(store);
+    }
+
+    static void Asienta()
+    {
+        QTest::qWait(0);
+        QTest::qWait(0);
+    }
+    /// A control of a form.
+    template <class Control>
+    static Control* Da(const std::string& nombre, QWidget* form)
+    {
+        Control* c = form ? form->findChild<Control*>(Q(nombre)) : nullptr;
+        if (!c) throw std::runtime_error("no control " + nombre);
+        return c;
+    }
+    static std::string Texto(const char* etiqueta, QWidget* form)
+    {
+        return U(Da<QLabel>(etiqueta, form)->text());
+    }
+    static void Pulsa(const char* boton, QWidget* form)
+    {
+        QTest::mouseClick(Da<QPushButton>(boton, form), Qt::LeftButton);
+        Asienta();
+    }
+    /// Double-clicks rows of a chooser's list.
+    static void Elige(QWidget* elector, std::initializer_list<int> filas)
+    {
+        auto* lista = Da<QListWidget>("List1", elector);
+        for (const int r : filas) {
+            lista->scrollToItem(lista->item(r - 1));
+            const QPoint p = lista->visualItemRect(lista->item(r - 1)).center();
+            QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, p);
+            QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, p);
+        }
+    }
+    auto Abiertas() const { return std::ranges::count_if(area->subWindowList(), &QWidget::isVisible); }
+    static void Arrastra(VistaOndas* v, QPoint a, QPoint b)
+    {
+        QTest::mousePress(v->Plot(), Qt::LeftButton, {}, a);
+        QTest::mouseMove(v->Plot(), b);
+        QTest::mouseRelease(v->Plot(), Qt::LeftButton, {}, b);
+        Asienta();
+    }
+    void EsperaAmpliar(bool si = true)
+    {
+        cajas.Espera("¿Desea ampliar la zona marcada?", Icono::Pregunta, Botones::AceptarCancelar, si);
+    }
+    void Amplia(VistaOndas* v, QPoint a, QPoint b)
+    {
+        Pulsa("cmdzoom", v);
+        EsperaAmpliar();
+        Arrastra(v, a, b);
+    }
+    /// Two resizes, back to the size that it has.
+    static void Estira(VistaOndas* v)
+    {
+        for (const int pixeles : {-1, 1}) {
+            v->Ventana().resize(v->Ventana().width() + pixeles, v->Ventana().height());
+            Asienta();
+        }
+    }
+    static double LineaX(const char* nombre, VistaOndas* v) { return 15.0 * Da<LineaSobre>(nombre, v)->x(); }
+
+    QMainWindow principal;
+    QMdiArea* area = new QMdiArea;
+    RespondeCajas cajas;
+    Separa separa{",", "."};
+    std::string avance;
+    bool menu = true;
+    int muestras = 0;
+};
+
+}  // namespace veldix::prueba

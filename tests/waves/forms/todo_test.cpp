@@ -1,0 +1,150 @@
+#include "waves/forms/frmNewOndas.h"
+#include "waves/forms/frmTodoanalog.h"
+#include "waves/forms/registro_ondas.h"
+
+namespace veldix {
+namespace {
+
+using prueba::Valor;
+
+class TodoTest : public prueba::RegistroOndas {
+protected:
+    frmTodoanalog* Abre(std::initializer_list<int> filas)
+    {
+        frmNewOndas::unica.CargaNueva().show();
+        Elige(frmNewOndas::unica.Cargado(), filas);
+        Pulsa("cmdtodo", frmNewOndas::unica.Cargado());
+        return frmTodoanalog::unica.Cargado();
+    }
+    static void Cursores(frmTodoanalog* v, int c1, int c2)
+    {
+        Da<QScrollBar>("HScroll1", v)->setValue(c1);
+        Da<QScrollBar>("HScroll2", v)->setValue(c2);
+    }
+    /// Range of the bars, both cursors, level and levels.
+    static std::vector<int> Estado(frmTodoanalog* v)
+    {
+        const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
+        return {una->minimum(),  una->value(),        otra->value(),
+                otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
+    }
+};
+
+TEST_F(TodoTest, NoChoiceIsToldAndTheDialogComesBack)
+{
+    cajas.Espera("No se ha elegido nada para visualizar.", Icono::Informacion);
+    EXPECT_EQ(Abre({}), nullptr);
+    ASSERT_TRUE(frmNewOndas::unica.Cargado() && frmNewOndas::unica.Cargado()->isVisible());
+    EXPECT_TRUE(menu && avance.empty());
+}
+
+TEST_F(TodoTest, EightBandsShowTheirRowsValuesAndTheirColumnsCurves)
+{
+    store.Canales(9).Circuito = "CIRCUITO LARGO";
+    frmTodoanalog* v = Abre({9, 8, 2, 3, 4, 5, 6, 7});
+    ASSERT_TRUE(v && v->isVisible() && !menu && !frmNewOndas::unica.Cargado());
+    EXPECT_EQ(avance, "[Preparando las ondas... 5 20 40]");
+    EXPECT_EQ(U(v->windowTitle()), "Canales Analógicos");
+    std::vector<OperacionLienzo> ops;
+    v->Plot()->PonGrabadora(&ops);
+    v->Ventana().resize(v->Ventana().width() - 1, v->Ventana().height());
+    Asienta();
+    v->Plot()->PonGrabadora(nullptr);
+    ASSERT_EQ(ops.size(), 1U + 9U + 8U);
+    const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), banda = h / 8 + 1;
+    const OperacionLienzo& vertical = ops[1];
+    EXPECT_EQ(vertical.xs, (std::vector{50.0, 50.0}));
+    EXPECT_EQ(vertical.ys, (std::vector{50.0, h - 50}));
+    EXPECT_NEAR(ops[9].ys[0], 7 * banda + banda / 2, 0.01);
+    const OperacionLienzo& primera = ops[10];  // row 2, column 3, at the common scale of 180
+    ASSERT_EQ(primera.xs.size(), 960U);
+    EXPECT_NEAR(primera.xs.back(), 959 * (w - 150) / 960 + 50, 0.1);
+    EXPECT_NEAR(primera.ys[21], banda / 2 - Valor(22, 3) * (banda - banda / 25) / 2 / 180, 0.1);
+    EXPECT_EQ(primera.color & 0xFFFFFFU, 0x00FF00U);
+
+    Cursores(v, 22, 960);
+    EXPECT_EQ(Texto("lblet1", v), "I2: " + std::to_string(Valor(22, 2)) + ",000 A");
+    EXPECT_EQ(Texto("lblet16", v), "CIRCUITO LARGO: " + std::to_string(Valor(960, 9)) + ",000 A");
+    EXPECT_EQ(Texto("lblam", v) + Texto("lblci", v), "No.= 22No.= 960");
+    EXPECT_EQ(Texto("lblms", v), "938,000 ms");
+    EXPECT_NEAR(LineaX("lnam", v), 21 * (w - 150) / 960 + 50, 15);
+    Da<QScrollBar>("HScroll_Nombres", v)->setValue(9);
+    EXPECT_EQ(Texto("lblet16", v), "LARGO: " + std::to_string(Valor(960, 9)) + ",000 A");
+    EXPECT_EQ(Texto("lblet1", v), ("I2: " + std::to_string(Valor(22, 2)) + ",000 A").substr(9));
+    QTest::mouseClick(Da<QLabel>("lblet1", v), Qt::LeftButton);
+    EXPECT_TRUE(Texto("lblet1", v).starts_with("I2: "));
+    v->Ventana().close();
+    Asienta();
+    EXPECT_TRUE(menu);
+}
+
+TEST_F(TodoTest, TheFirstCursorLeavesTheSixteenthNameAsItWas)
+{
+    frmTodoanalog* v = Abre({1, 2, 3, 4, 5, 6, 7, 8});
+    Da<QScrollBar>("HScroll2", v)->setValue(5);
+    const std::string antes = Texto("lblet16", v);
+    store.Canales(8).Nombre = "OTRO";
+    Da<QScrollBar>("HScroll1", v)->setValue(9);
+    EXPECT_TRUE(Texto("lblet16", v).starts_with("OTRO: "));
+    QTest::mouseClick(Da<QLabel>("lblet16", v), Qt::LeftButton);
+    EXPECT_EQ(Texto("lblet16", v), antes);
+    QTest::mouseClick(Da<QLabel>("lblet15", v), Qt::LeftButton);
+    EXPECT_TRUE(Texto("lblet15", v).starts_with("OTRO: "));
+}
+
+TEST_F(TodoTest, ZoomsBetweenTheCursorsAndTellsItsEnds)
+{
+    frmTodoanalog* v = Abre({1, 2});
+    const std::vector<int> todo{1, 1, 1, 960, 0, 1};
+    EXPECT_EQ(Estado(v), todo);
+    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
+    Pulsa("cmdzoom", v);
+    cajas.Espera("Este es el último nivel de zoom.", Icono::Critico);
+    Pulsa("cmdadel", v);
+    cajas.Espera("Este es el primer nivel de zoom.", Icono::Ninguno);
+    Pulsa("cmdatras", v);
+    EXPECT_EQ(Estado(v), todo);
+
+    Cursores(v, 401, 201);
+    std::vector<OperacionLienzo> ops;
+    v->Plot()->PonGrabadora(&ops);
+    Pulsa("cmdzoom", v);
+    EXPECT_EQ(Estado(v), (std::vector{201, 201, 201, 401, 1, 2}));
+    ASSERT_EQ(ops.back().xs.size(), 200U);  // the last sample is not joined
+    const double w = v->Plot()->Ancho();
+    EXPECT_NEAR(ops.back().xs.back(), 199 * (w - 100) / 200 + 50, 0.1);
+    Da<QScrollBar>("HScroll2", v)->setValue(401);
+    EXPECT_NEAR(LineaX("lnci", v), w - 100, 15);
+    Pulsa("cmdatras", v);
+    EXPECT_EQ(Estado(v), (std::vector{1, 1, 1, 960, 0, 2}));
+    EXPECT_EQ(ops.back().xs.size(), 959U);  // now the zoom's rule holds for the whole record too
+    EXPECT_NEAR(ops.back().xs.back(), 958 * (w - 100) / 959 + 50, 0.1);
+    Pulsa("cmdadel", v);
+    EXPECT_EQ(Estado(v), (std::vector{201, 201, 201, 401, 1, 2}));
+    v->Plot()->PonGrabadora(nullptr);
+    v->Ventana().resize(v->Ventana().width() - 1, v->Ventana().height());
+    Asienta();
+    EXPECT_EQ(Estado(v), todo);
+}
+
+TEST_F(TodoTest, TheThirtyFirstZoomAndABadColumnCloseTheWindow)
+{
+    frmTodoanalog* v = Abre({1});
+    for (int nivel = 1; nivel <= 30; ++nivel) {
+        Cursores(v, 1, 2);
+        Pulsa("cmdzoom", v);
+    }
+    ASSERT_EQ(v->Zoom().NumNiveles, 31);
+    Cursores(v, 1, 2);
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    Pulsa("cmdzoom", v);
+    EXPECT_TRUE(menu && !frmTodoanalog::unica.Cargado());
+
+    store.Canales(1).Numero = "x";
+    cajas.Espera("Error 13: Type mismatch", Icono::Critico);
+    EXPECT_EQ(Abre({1}), nullptr);
+    EXPECT_TRUE(menu && avance.ends_with(']') && !frmNewOndas::unica.Cargado());
+}
+
+}  // namespace
+}  // namespace veldix
