@@ -6,6 +6,7 @@
 #include "analysis/forms/frmFases.h"
 #include "analysis/forms/frmSecuencias.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
 
 namespace veldix {
@@ -32,10 +33,8 @@ void frmFasecuencias::CreaControles()
     CreaCajas(Frame1, "fas", fas);
     CreaCajas(Frame2, "sec", sec);
     Frame3 = new MarcoReferencia("Frame3", this);
-    cmdOK = new QPushButton(Q(Rotulo(24, "Aceptar")), this);
-    cmdOK->setObjectName("cmdOK");
-    cmdSalir = new QPushButton(Q(Rotulo(25, "Cancelar")), this);
-    cmdSalir->setObjectName("cmdSalir");
+    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
+    cmdSalir = CreaBoton(this, "cmdSalir", 25, "Cancelar");
     PonBotones(cmdOK, cmdSalir);
 }
 

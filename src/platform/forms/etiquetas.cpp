@@ -2,7 +2,9 @@
 
 #include <QFontMetrics>
 
+#include "platform/forms/escena.h"
 #include "platform/pantalla.h"
+#include "platform/textos.h"
 
 namespace veldix {
 
@@ -12,6 +14,13 @@ QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre)
     l->setObjectName(nombre);
     l->setTextFormat(Qt::PlainText);
     return l;
+}
+
+QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char* defecto)
+{
+    auto* b = new QPushButton(Q(Rotulo(texto, defecto)), padre);
+    b->setObjectName(nombre);
+    return b;
 }
 
 void PonTexto(QLabel* etiqueta, const QString& texto)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPushButton>
 
 #include "platform/vista.h"
 
@@ -8,6 +9,9 @@ namespace veldix {
 
 /// A label of plain text with its name.
 QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre);
+
+/// A button captioned with a language line, `defecto` where that was not loaded.
+QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char* defecto);
 
 /// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
 /// They do not widen again before the label gets its font anew, so that they stand still while a bar moves.

@@ -7,6 +7,7 @@
 
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
 #include "record/record_store.h"
 #include "shell/ajustes.h"
@@ -40,10 +41,8 @@ void frmDirect::CreaControles()
     CreaCarpeta(oscilos, QStringLiteral("oscilos"), Rotulo(188, "Directorio de registros:"));
     CreaCarpeta(plantillas, QStringLiteral("plantillas"), Rotulo(189, "Directorio de plantillas:"));
     CreaCarpeta(aplic, QStringLiteral("aplic"), Rotulo(190, "Directorio de herramientas:"));
-    cmdOK = new QPushButton(Q(Rotulo(24, "Aceptar")), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdcancel = new QPushButton(Q(Rotulo(25, "Cancelar")), this);
-    cmdcancel->setObjectName(QStringLiteral("cmdcancel"));
+    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdOK, cmdcancel);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
 #include "record/avance.h"
 #include "record/leer_cfg.h"
@@ -45,15 +46,10 @@ void frmPlantilla::CreaControles()
     Label6->setObjectName("Label6");
     Label6->setBuddy(Combo1);
     Combo1->setAccessibleName(Label6->text());
-    const auto boton = [this](const char* nombre, int texto, const char* defecto) {
-        auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
-        b->setObjectName(nombre);
-        return b;
-    };
-    cmdBuscar = boton("cmdBuscar", 27, "Abrir");
-    cmdModif = boton("cmdModif", 28, "modificar");
-    cmdNueva = boton("cmdNueva", 29, "nueva");
-    cmdcancel = boton("cmdcancel", 25, "Cancelar");
+    cmdBuscar = CreaBoton(this, "cmdBuscar", 27, "Abrir");
+    cmdModif = CreaBoton(this, "cmdModif", 28, "modificar");
+    cmdNueva = CreaBoton(this, "cmdNueva", 29, "nueva");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdBuscar, cmdcancel);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "templates/forms/cadena.h"
@@ -36,14 +37,9 @@ void frmSalvaPlan::CreaControles()
     Text2->setAccessibleName(Label1->text());
     Label1->setBuddy(Text2);
     elector_ = new ElectorFicheros("Label2", "Text1", this);
-    const auto boton = [this](const char* nombre, int texto, const char* defecto) {
-        auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
-        b->setObjectName(nombre);
-        return b;
-    };
-    cmdvolver = boton("cmdvolver", 94, "volver");
-    cmdOK = boton("cmdOK", 24, "Aceptar");
-    cmdcancel = boton("cmdcancel", 25, "Cancelar");
+    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
+    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdOK, cmdcancel);
 }
 

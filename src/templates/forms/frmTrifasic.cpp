@@ -6,6 +6,7 @@
 #include "platform/enteros.h"
 #include "platform/forms/doble_clic.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
@@ -66,14 +67,9 @@ void frmTrifasic::CreaControles()
     txtnumTrif->setMaximumWidth(txtnumTrif->fontMetrics().averageCharWidth() * 8);
     for (int g = 1; g <= kGrupos; ++g)
         CreaGrupo(g);
-    const auto boton = [this](const char* nombre, int texto, const char* defecto) {
-        auto* b = new QPushButton(Q(Rotulo(texto, defecto)), this);
-        b->setObjectName(nombre);
-        return b;
-    };
-    cmdvolver = boton("cmdvolver", 94, "volver");
-    cmdOK = boton("cmdOK", 38, "Continuar");
-    cmdcancel = boton("cmdcancel", 25, "Cancelar");
+    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
+    cmdOK = CreaBoton(this, "cmdOK", 38, "Continuar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdOK, cmdcancel);
 }
 

@@ -29,13 +29,6 @@ FilasRanura* ElectorOndas::CreaFilas(int cuantas, QWidget* padre, int primera)
     return filas;
 }
 
-QPushButton* ElectorOndas::CreaBoton(const char* nombre, const QString& texto)
-{
-    auto* boton = new QPushButton(texto, this);
-    boton->setObjectName(nombre);
-    return boton;
-}
-
 void ElectorOndas::LlenaLista()
 {
     for (int r = 1; r <= store.NumCanalAnalog; ++r)

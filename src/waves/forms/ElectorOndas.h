@@ -30,7 +30,6 @@ protected:
 
     /// A row of slots that this form shows, `cuantas` from `primera` on.
     FilasRanura* CreaFilas(int cuantas, QWidget* padre, int primera = 1);
-    QPushButton* CreaBoton(const char* nombre, const QString& texto);
     /// The record's channels in List1, and its first line current.
     void LlenaLista();
     /// Pointers back, a box, and the dialog stands.

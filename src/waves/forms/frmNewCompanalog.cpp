@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
 #include "platform/vista.h"
 #include "record/record_store.h"
@@ -21,8 +22,8 @@ frmNewCompanalog::frmNewCompanalog()
                    Ranuras(kVentanasComp * kCanalesComp, Ranuras::Repetida::AntesPorTexto, kCanalesComp))
 {
     setWindowTitle(Q(Rotulo(64, "Composición de Canales Analógicos")));
-    cmdOK = CreaBoton("cmdOK", Q(Rotulo(24, "Aceptar")));
-    cmdcancel = CreaBoton("cmdcancel", Q(Rotulo(25, "Cancelar")));
+    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdOK, cmdcancel);
     Dispone();
     LlenaLista();

@@ -6,6 +6,7 @@
 
 #include "platform/enteros.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
@@ -44,9 +45,9 @@ void frmNewOndas::CreaControles()
     List1->setParent(Frame1);
     List1->setAccessibleName(Frame1->title());
     filas_ = CreaFilas(kRanuras, Frame2);
-    cmdOK = CreaBoton("cmdOK", Q(Rotulo(142, "individualmente")));
-    cmdtodo = CreaBoton("cmdtodo", Q(Rotulo(141, "conjuntamente")));
-    cmdSalir = CreaBoton("cmdSalir", Q(Rotulo(25, "Cancelar")));
+    cmdOK = CreaBoton(this, "cmdOK", 142, "individualmente");
+    cmdtodo = CreaBoton(this, "cmdtodo", 141, "conjuntamente");
+    cmdSalir = CreaBoton(this, "cmdSalir", 25, "Cancelar");
     PonBotones(cmdOK, cmdSalir);
 }
 
