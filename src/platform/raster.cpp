@@ -148,6 +148,51 @@ void Pluma::Bloque(int x1, int y1, int x2, int y2) const
     }
 }
 
+struct Extremos {
+    double menor, mayor;
+    bool finitos;
+};
+
+// Least and greatest of at least one number. Scaling by a positive factor keeps their order, so that only
+// these two of a column's points need it. Two chains at a time, since each step waits for the one before.
+Extremos ExtremosDe(std::span<const double> v)
+{
+    const std::size_t pares = v.size() / 2 * 2;
+    double menor1 = v[0], menor2 = v[0], mayor1 = v[0], mayor2 = v[0], nulo1 = v.back() * 0.0, nulo2 = 0.0;
+    for (std::size_t i = 0; i < pares; i += 2) {
+        const double a = v[i], b = v[i + 1];
+        menor1 = a < menor1 ? a : menor1;
+        menor2 = b < menor2 ? b : menor2;
+        mayor1 = a > mayor1 ? a : mayor1;
+        mayor2 = b > mayor2 ? b : mayor2;
+        nulo1 += a * 0.0;  // stays zero while all are finite
+        nulo2 += b * 0.0;
+    }
+    return {std::min({menor1, menor2, v.back()}), std::max({mayor1, mayor2, v.back()}), nulo1 + nulo2 == 0.0};
+}
+
+// The first point from `i` on that is not in the pixel column. Blocks without a branch a point, since most of
+// a column lies in them.
+std::size_t FinDeColumna(std::span<const double> xs, std::size_t i, double escala, double desplazado,
+                         int columna)
+{
+    constexpr std::size_t kBloque = 8;
+    const double borde = columna, fin = borde + 1.0;
+    const auto dentro = [&](std::size_t k) {
+        const double x = xs[k] * escala + desplazado;
+        return (x >= borde) & (x < fin);
+    };
+    for (; i + kBloque <= xs.size(); i += kBloque) {
+        bool todos = true;
+        for (std::size_t k = 0; k < kBloque; ++k)
+            todos &= dentro(i + k);
+        if (!todos) break;
+    }
+    while (i < xs.size() && dentro(i))
+        ++i;
+    return i;
+}
+
 }  // namespace
 
 void Rellena(const Imagen32& imagen, std::uint32_t color)
@@ -174,27 +219,30 @@ void TrazaPoligonal(const Imagen32& imagen, std::span<const double> xs, std::spa
     if (pluma.Vacia() || total < 2) return;
     const auto punto = [&](std::size_t i) { return pluma.Desplaza(xs[i] * escala, ys[i] * escala); };
 
+    const double desplazado = pluma.Desplaza(0.0, 0.0).x;
     Punto actual = punto(0);
     for (std::size_t i = 0;;) {
-        const std::size_t primero = i;
-        Punto siguiente = actual;
         if (pluma.ColumnaVisible(actual.x) && Pluma::Finito(actual.y)) {
             const int columna = static_cast<int>(actual.x);
-            const double borde = columna;
-            double menor = actual.y;
-            double mayor = actual.y;
-            while (++i < total) {
-                siguiente = punto(i);
-                if (!(siguiente.x >= borde && siguiente.x < borde + 1.0 && Pluma::Finito(siguiente.y))) break;
-                menor = std::min(menor, siguiente.y);
-                mayor = std::max(mayor, siguiente.y);
-                actual = siguiente;
+            const std::size_t primero = i;
+            i = FinDeColumna(xs.first(total), i + 1, escala, desplazado, columna);
+            Extremos e = ExtremosDe(ys.subspan(primero, i - primero));
+            if (!e.finitos || !Pluma::Finito(pluma.Desplaza(0.0, e.menor * escala).y) ||
+                !Pluma::Finito(pluma.Desplaza(0.0, e.mayor * escala).y)) {
+                const std::size_t fin = i;
+                for (i = primero + 1; i < fin && Pluma::Finito(punto(i).y);)
+                    ++i;
+                e = ExtremosDe(ys.subspan(primero, i - primero));
             }
-            if (i > primero + 1) pluma.Columna(columna, menor, mayor);
-        } else if (++i < total) {
-            siguiente = punto(i);
+            if (i > primero + 1)
+                pluma.Columna(columna, pluma.Desplaza(0.0, e.menor * escala).y,
+                              pluma.Desplaza(0.0, e.mayor * escala).y);
+            actual = punto(i - 1);
+        } else {
+            ++i;
         }
         if (i >= total) return;
+        const Punto siguiente = punto(i);
         pluma.Segmento(actual, siguiente);
         actual = siguiente;
     }

@@ -23,7 +23,8 @@ void Rellena(const Imagen32& imagen, std::uint32_t color);
 void TrazaLinea(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color,
                 int grueso = 1);
 
-/// Draws the segments between consecutive points (xs[i], ys[i]) * escala, in device pixels after scaling.
+/// Draws the segments between consecutive points (xs[i], ys[i]) * escala, in device pixels after scaling by
+/// the positive `escala`.
 /// The pixels are exactly those of TrazaLinea called for each segment; x need not be monotonic.
 /// Points beyond the shorter of the two arrays are ignored, and a lone point draws nothing.
 void TrazaPoligonal(const Imagen32& imagen, std::span<const double> xs, std::span<const double> ys,

@@ -219,6 +219,20 @@ TEST_F(FasoresTest, ZoomTooDeepEndsTheViewOrTellsNothing)
     EXPECT_EQ(Texto("lblCorSecPos", f), texto);
 }
 
+TEST_F(FasoresTest, AViewLeftStandingGoesByTheModeItWasOpenedIn)
+{
+    Elige({"fas1"});
+    ASSERT_TRUE(frmFases::unica.Cargado());
+    Elige({"fas1", "sec1"});  // while the first one still stands
+    Asienta();
+    frmSecuencias::unica.Cargado()->Ventana().close();
+    Asienta();
+    EXPECT_FALSE(menu);
+    frmFases::unica.Cargado()->Ventana().close();
+    Asienta();
+    EXPECT_TRUE(menu);
+}
+
 TEST_F(FasoresTest, TwoViewsLoseTheMenuOrEachOther)
 {
     for (const bool primeroFases : {true, false}) {
