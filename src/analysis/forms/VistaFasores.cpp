@@ -30,7 +30,6 @@ QPixmap MuestraColor(QRgb color)
 VistaFasores::VistaFasores(const Papel& papel) : Vista(papel.etiqueta), papel_(papel)
 {
     setObjectName(papel_.nombre);
-    setAutoFillBackground(true);  // a step of the bar then paints nothing of the frame behind
     CreaControles();
     CreaBotones();
     CreaTrazos();

@@ -61,6 +61,7 @@ void Formulario::keyPressEvent(QKeyEvent* evento)
 
 Vista::Vista(int etiqueta) : Formulario(nullptr), etiqueta_(etiqueta)
 {
+    setAutoFillBackground(true);  // a step of a bar then paints nothing of the frame behind
     setAttribute(Qt::WA_DeleteOnClose, false);
     ventana_ = new QMdiSubWindow;
     ventana_->setWidget(this);

@@ -14,9 +14,13 @@ namespace {
 constexpr int kEtiquetas = 16;  // two a channel
 constexpr float kMargenes = 150.0F;
 
-QString Fondo(std::uint32_t color)
+void PonFondo(QLabel* etiqueta, QRgb color)
 {
-    return QString("background-color: #%1; color: black;").arg(color, 6, 16, QChar('0'));
+    QPalette p = etiqueta->palette();
+    p.setColor(QPalette::Window, QColor(color));
+    p.setColor(QPalette::WindowText, Qt::black);
+    etiqueta->setPalette(p);
+    etiqueta->setAutoFillBackground(true);
 }
 
 }  // namespace
@@ -40,7 +44,7 @@ void frmTodoanalog::CreaControles()
     std::vector<QLabel*> etiquetas;
     for (int k = 1; k <= kEtiquetas; ++k) {
         etiquetas.push_back(CreaEtiqueta(this, QString("lblet%1").arg(k)));
-        etiquetas.back()->setStyleSheet(Fondo(ColorPaleta(k % 2 == 1 ? 14 : 11)));
+        PonFondo(etiquetas.back(), ColorPaleta(k % 2 == 1 ? 14 : 11));
         etiquetas.back()->hide();
     }
     lblet = new EtiquetasCorridas(etiquetas, HScroll_Nombres, this);

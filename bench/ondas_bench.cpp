@@ -1,0 +1,179 @@
+// Redraws of the time-domain views on the longest record, a step of a cursor in each, and the curves beside
+// Qt's own polyline. Best times of several rounds; the ratios are what counts.
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QPainter>
+#include <QPolygonF>
+
+#include <cmath>
+#include <cstdio>
+
+#include "medir.h"
+#include "platform/forms/escena.h"
+#include "platform/vista.h"
+#include "waves/forms/frmTodoanalog.h"
+#include "waves/forms/frmVerOndas.h"
+#include "waves/lugares_onda.h"
+
+namespace {
+
+using namespace veldix;
+
+constexpr int kCanales = 8, kMuestras = 32767, kRondas = 25, kPasos = 500;
+
+void Registro()
+{
+    store.RevisionCfg = "1991";
+    store.FrecLinea = 50;
+    store.FrecMuestras = Tabla1<std::int16_t>(1);
+    store.FrecMuestras(1) = 1600;
+    store.NumAnalog = store.NumCanalAnalog = kCanales;
+    store.Canales = Tabla1<FilaCanal>(kCanales);
+    store.Muestras = Tabla2<float>(kMuestras, kCanales);
+    for (int c = 1; c <= kCanales; ++c) {
+        store.Canales(c) = {std::to_string(c), "Canal " + std::to_string(c), "", "A"};
+        for (int i = 1; i <= kMuestras; ++i) {
+            const double falta = i > 13000 && i < 20000 ? 1.0 : 0.4;
+            store.Muestras(i, c) =
+                static_cast<float>(falta * (std::sin(i * 0.19635 + c) + 0.1 * std::sin(i * 1.3744)));
+        }
+    }
+    ReiniciaRegistro(store);
+    store.AnchoPantalla = 19200.0, store.AltoPantalla = 12000.0;
+}
+
+void Pinta()
+{
+    QCoreApplication::processEvents();
+}
+
+/// The curve that a window draws, as it drew it last.
+OperacionLienzo Curva(Lienzo& plot)
+{
+    std::vector<OperacionLienzo> ops;
+    plot.PonGrabadora(&ops);
+    Q_EMIT plot.PideDibujo();
+    plot.PonGrabadora(nullptr);
+    return ops.back();
+}
+
+/// The curves alone, from points that are there: this program's, Qt's, and a line a segment. False where the
+/// pixels of the first and the last differ.
+bool MideCurvas(const std::vector<frmVerOndas*>& ventanas)
+{
+    std::vector<OperacionLienzo> curvas;
+    std::vector<QPolygonF> poligonos;
+    for (frmVerOndas* v : ventanas) {
+        curvas.push_back(Curva(*v->Plot()));
+        QPolygonF p;
+        for (std::size_t i = 0; i < curvas.back().xs.size(); ++i)
+            p << QPointF(curvas.back().xs[i] / 15.0, curvas.back().ys[i] / 15.0);
+        poligonos.push_back(p);
+    }
+    Lienzo una, otra;
+    QImage imagen(ventanas[0]->Plot()->size(), QImage::Format_RGB32);
+    for (Lienzo* l : {&una, &otra}) {
+        l->resize(imagen.size());
+        l->Limpia(0x808080);
+    }
+    const std::vector<double> t = Mejores({[&] {
+                                               for (const auto& c : curvas)
+                                                   una.Poligonal(c.xs, c.ys, c.color);
+                                           },
+                                           [&] {
+                                               QPainter p(&imagen);
+                                               for (std::size_t k = 0; k < curvas.size(); ++k) {
+                                                   p.setPen(QColor(curvas[k].color));
+                                                   p.drawPolyline(poligonos[k]);
+                                               }
+                                           }},
+                                          kRondas);
+    for (const auto& c : curvas)
+        for (std::size_t i = 0; i + 1 < c.xs.size(); ++i)
+            otra.Linea(c.xs[i], c.ys[i], c.xs[i + 1], c.ys[i + 1], c.color);
+    const bool iguales = una.Imagen() == otra.Imagen();
+    std::printf("eight curves %.2f ms, Qt's polylines %.2f ms, ratio %.2f, pixels %s\n", t[0], t[1],
+                t[0] / t[1], iguales ? "equal" : "DIFFER");
+    return iguales;
+}
+
+/// Redraw at 1:1 by a change of size, and a step of the yellow cursor with what it writes.
+template <class Vista>
+void MideRedibujo(const char* nombre, const std::vector<Vista*>& vistas)
+{
+    int ancho = 0, paso = 1;
+    auto* barra = vistas[0]->template findChild<QScrollBar*>("HScroll1");
+    auto* linea = vistas[0]->template findChild<LineaSobre*>();
+    double x = 300.0;
+    const std::vector<double> redibujo = Mejores(
+        {[&] {
+            ancho = ancho == 0 ? -1 : 0;
+            for (Vista* v : vistas)
+                v->Ventana().resize(v->Ventana().width() + (ancho == 0 ? 1 : -1), v->Ventana().height());
+            Pinta();
+        }},
+        kRondas);
+    const std::vector<double> cursor = Mejores({[&] {
+                                                    barra->setValue(paso += 37);
+                                                    Pinta();
+                                                },
+                                                [&] {
+                                                    x += 15.0;
+                                                    linea->Pon(x, 0.0, x, vistas[0]->Plot()->Alto());
+                                                    Pinta();
+                                                }},
+                                               kPasos);
+    std::printf("%s: redraw %.2f ms; cursor step %.3f ms, ratio %.4f; its line alone %.3f ms, ratio %.4f\n",
+                nombre, redibujo[0], cursor[0], cursor[0] / redibujo[0], cursor[1], cursor[1] / redibujo[0]);
+}
+
+bool MideTodo()
+{
+    const TamanoVista vista = veldix::MideVista(Pantalla{store.AnchoPantalla, store.AltoPantalla});
+    store.VentanaOnda = Tabla1<frmVerOndas*>(kCanales);
+    store.NumVentanasOnda = kCanales;
+    std::vector<frmVerOndas*> ventanas;
+    const auto lugares = RejillaVentanas(kCanales, vista);
+    for (int r = 1; r <= kCanales; ++r) {
+        ventanas.push_back(store.VentanaOnda(r) = new frmVerOndas(r));
+        const Lugar& l = lugares[static_cast<std::size_t>(r - 1)];
+        ventanas.back()->Form_activo(l.alto, l.ancho, l.arriba, l.izquierda);
+        ventanas.back()->Ventana().showNormal();
+    }
+    Pinta();
+    const bool iguales = MideCurvas(ventanas);
+    MideRedibujo("eight windows", ventanas);
+    for (frmVerOndas* v : ventanas)
+        v->Descarga();
+    store.OndaCanal = Tabla1<std::int16_t>(kCanales);
+    for (int r = 1; r <= kCanales; ++r)
+        store.OndaCanal(r) = 1;
+    frmTodoanalog& todo = frmTodoanalog::unica.CargaNueva();
+    todo.Ventana().showNormal();
+    Pinta();
+    MideRedibujo("all channels", std::vector<frmTodoanalog*>{&todo});
+    todo.Descarga();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return iguales;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    InstalaEscena();
+    Registro();
+    QMainWindow principal;
+    escena.principal = &principal;
+    escena.area = new QMdiArea(&principal);
+    principal.setCentralWidget(escena.area);
+    principal.resize(1280, 800);
+    principal.show();
+    const bool iguales = MideTodo();
+    escena = {};
+    return iguales ? 0 : 1;
+}
