@@ -15,11 +15,6 @@ namespace {
 
 constexpr double kBaseZoom = 1.25;
 
-float Factor(const RecordStore& s, int grupo)
-{
-    return Single(NumeroLocal(s.Trifasic(grupo).Factor));
-}
-
 double DentroDeLimite(double twips)
 {
     if (!(std::abs(twips) <= kLimiteDiagrama)) Lanza(error::kDesbordamiento);
@@ -28,16 +23,9 @@ double DentroDeLimite(double twips)
 
 CuadroDiagrama::Linea LineaDe(const RecordStore& s, const Diagrama& d, const Trazo& t, int fila)
 {
-    const double f = Factor(s, t.grupo);
+    const double f = FactorDeGrupo(s, t.grupo);
     const double x = d.Cartesianas(fila, 2 * t.fasor - 1), y = d.Cartesianas(fila, 2 * t.fasor);
     return {true, DentroDeLimite(f * x + double{d.CentroX}), DentroDeLimite(double{d.CentroY} - f * y)};
-}
-
-std::string TextoDe(const RecordStore& s, const Diagrama& d, const Trazo& t, int fila)
-{
-    const int k = FilaDeCanal(s, t.canal);
-    return EtiquetaCanal(s, k) + t.digito + ": " + Mascara(d.Modulos(fila, t.fasor), "#.###") + " @ " +
-           Mascara(d.Angulos(fila, t.fasor), "#.##") + s.Canales(k).Unidades;
 }
 
 CuadroDiagrama Pinta(const RecordStore& s, const Diagrama& d, const std::vector<Trazo>& trazos, int fila)
@@ -46,8 +34,8 @@ CuadroDiagrama Pinta(const RecordStore& s, const Diagrama& d, const std::vector<
     for (std::size_t i = 0; i < trazos.size(); ++i)
         cuadro.lineas[i] = LineaDe(s, d, trazos[i], fila);
     for (std::size_t i = 0; i < trazos.size(); ++i)
-        cuadro.textos[i] = TextoDe(s, d, trazos[i], fila);
-    cuadro.numero = Textos(266) + FormaDelimitada(fila - (d.PrimeraFila() - 1));
+        cuadro.textos[i] = TextoTrazo(s, d, trazos[i], fila, " @ ");
+    cuadro.numero = TextoNumero(d, fila);
     return cuadro;
 }
 
@@ -111,6 +99,27 @@ float MaxModuloSecuencias(const RecordStore& s)
     for (const float maximo : s.MaxCanal)
         mayor = std::max(mayor, maximo);
     return mayor;
+}
+
+float FactorDeGrupo(const RecordStore& s, int grupo)
+{
+    return Single(NumeroLocal(s.Trifasic(grupo).Factor));
+}
+
+std::string NombreTrazo(const RecordStore& s, const Trazo& t)
+{
+    return EtiquetaCanal(s, FilaDeCanal(s, t.canal)) + t.digito;
+}
+
+std::string TextoTrazo(const RecordStore& s, const Diagrama& d, const Trazo& t, int fila, const char* arroba)
+{
+    return NombreTrazo(s, t) + ": " + Mascara(d.Modulos(fila, t.fasor), "#.###") + arroba +
+           Mascara(d.Angulos(fila, t.fasor), "#.##") + s.Canales(FilaDeCanal(s, t.canal)).Unidades;
+}
+
+std::string TextoNumero(const Diagrama& d, int fila)
+{
+    return Textos(266) + FormaDelimitada(fila - (d.PrimeraFila() - 1));
 }
 
 CuadroDiagrama PintaFases(const RecordStore& s, const Diagrama& d, int fila)

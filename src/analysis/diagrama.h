@@ -77,6 +77,16 @@ std::vector<Trazo> TrazosSecuencias(const RecordStore& s);
 float MaxModuloFases(const RecordStore& s);
 float MaxModuloSecuencias(const RecordStore& s);
 
+/// The factor that lengthens the lines of a group. Raises 13, 9, 6.
+float FactorDeGrupo(const RecordStore& s, int grupo);
+
+/// What a line is called: the channel's label and the digit. Raises 9.
+std::string NombreTrazo(const RecordStore& s, const Trazo& t);
+/// Its text at `fila`, with `arroba` between magnitude and angle. Raises 9.
+std::string TextoTrazo(const RecordStore& s, const Diagrama& d, const Trazo& t, int fila, const char* arroba);
+/// The number of the sample that the bar's `fila` stands for, behind its caption.
+std::string TextoNumero(const Diagrama& d, int fila);
+
 /// What to show at `fila`. Raises 13 for a factor that is no number, 9 for a channel that the record or its
 /// names lack, 6 for a line that ends beyond kLimiteDiagrama.
 CuadroDiagrama PintaFases(const RecordStore& s, const Diagrama& d, int fila);

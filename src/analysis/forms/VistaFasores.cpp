@@ -4,6 +4,7 @@
 #include <QPixmap>
 
 #include "analysis/modDFT.h"
+#include "analysis/pagina_fasores.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/forms/iconos.h"
@@ -64,8 +65,6 @@ void VistaFasores::CreaBotones()
     cmdmenos = crea("cmdmenos", QString(QChar(0x2212)), zoom + " -");
     pctimpresora = crea("pctimpresora", QString(), Q(Rotulo(57, "Imprimir")));
     pctimpresora->setIcon(IconoImprimir());
-    // Pages of the analysis views are not part of the program yet.
-    pctimpresora->setEnabled(false);
 }
 
 void VistaFasores::CreaTrazos()
@@ -83,6 +82,7 @@ void VistaFasores::ConectaControles()
     Conecta(HScroll1, &QScrollBar::valueChanged, this, &VistaFasores::HScroll1_Change);
     Conecta(cmdmas, &QPushButton::clicked, this, &VistaFasores::cmdmas_Click);
     Conecta(cmdmenos, &QPushButton::clicked, this, &VistaFasores::cmdmenos_Click);
+    Conecta(pctimpresora, &QPushButton::clicked, this, &VistaFasores::pctimpresora_Click);
     Conecta(Picture1, &Lienzo::PideDibujo, this, &VistaFasores::Picture1_PideDibujo);
 }
 
@@ -198,6 +198,29 @@ void VistaFasores::CambiaZoom(int paso)
 void VistaFasores::Picture1_PideDibujo()
 {
     if (Cargada) PintaEjes();
+}
+
+void VistaFasores::pctimpresora_Click()
+{
+    const PunteroEspera espera(*this);
+    ConImpresora(Picture1->size(), [this](const PeticionImpresion& p) { Imprime(p); });
+}
+
+/// Each copy is a document of its own, save in a file, which would keep the last one only.
+void VistaFasores::Imprime(const PeticionImpresion& p)
+{
+    const QFontMetrics medidas = fontMetrics();
+    const MedidasLetra letra{ATwips(medidas.horizontalAdvance("AA")), ATwips(medidas.height())};
+    const PieFasores pie{Rotulo(papel_.titulo, papel_.defecto), store.FicheroDat, FechaImpresion()};
+    for (int copia = 1; copia <= p.copias; ++copia) {
+        if (p.impresora->Sentido() != Orientacion::Horizontal)
+            p.impresora->PonSentido(Orientacion::Horizontal);
+        if (copia > 1 && p.fichero) p.impresora->PaginaNueva();
+        ImprimeFasores(*p.impresora,
+                       ComponeFasores(store, *diagrama_, papel_.trazos(store), HScroll1->value(),
+                                      Picture1->Alto(), pie, *p.impresora, letra));
+        if (!p.fichero) p.impresora->Termina();
+    }
 }
 
 /// The inside may come out a little other than was reckoned before the frame was shown.

@@ -12,6 +12,7 @@
 #include "platform/forms/Lienzo.h"
 #include "platform/forms/LineaLibre.h"
 #include "platform/forms/formulario.h"
+#include "platform/forms/impresion.h"
 
 namespace veldix {
 
@@ -31,6 +32,7 @@ public:
         std::array<const char*, 6> lineas, textos;
         const Tabla2<float>& (*fasores)();  ///< computed first where they are not there yet
         float (*maximo)(const RecordStore&);
+        std::vector<Trazo> (*trazos)(const RecordStore&);
         CuadroDiagrama (*pinta)(const RecordStore&, const Diagrama&, int fila);
         bool RecordStore::*cerrando;      ///< flag of its own closing, while two views were opened
         bool RecordStore::*otraCerrando;  ///< that of the other view
@@ -68,6 +70,8 @@ private:
     void cmdmenos_Click();
     void CambiaZoom(int paso);
     void Picture1_PideDibujo();
+    void pctimpresora_Click();
+    void Imprime(const PeticionImpresion& p);
 
     Papel papel_;
     Lienzo* Picture1;

@@ -18,6 +18,7 @@ frmFases::frmFases()
                      "LblTensionC"},
           .fasores = []() -> const Tabla2<float>& { return store.FasoresDFT; },
           .maximo = MaxModuloFases,
+          .trazos = TrazosFases,
           .pinta = PintaFases,
           .cerrando = &RecordStore::FasesCerrando,
           .otraCerrando = &RecordStore::SecuenciasCerrando,

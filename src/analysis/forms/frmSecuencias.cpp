@@ -22,6 +22,7 @@ frmSecuencias::frmSecuencias()
               return store.Secuencias;
           },
           .maximo = MaxModuloSecuencias,
+          .trazos = TrazosSecuencias,
           .pinta = PintaSecuencias,
           .cerrando = &RecordStore::SecuenciasCerrando,
           .otraCerrando = &RecordStore::FasesCerrando,

@@ -137,6 +137,21 @@ void DescargaGasolinoOndas()
     if (escena.descargaGasolinoOndas) escena.descargaGasolinoOndas();
 }
 
+void MuestraCancelar()
+{
+    if (escena.muestraCancelar) escena.muestraCancelar();
+}
+
+void DescargaCancelar()
+{
+    if (escena.descargaCancelar) escena.descargaCancelar();
+}
+
+void ActivaSalir(bool activa)
+{
+    if (escena.activaSalir) escena.activaSalir(activa);
+}
+
 void PonPuntero(QWidget* widget, Puntero puntero)
 {
     if (!widget) return;

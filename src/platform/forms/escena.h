@@ -24,6 +24,9 @@ struct Escena {
     std::function<void(const QString&)> muestraGasolinoOndas;
     std::function<void(int)> ponGasolinoOndas;
     std::function<void()> descargaGasolinoOndas;
+    std::function<void()> muestraCancelar;  ///< the box that stops a print, alone with the user's input
+    std::function<void()> descargaCancelar;
+    std::function<void(bool)> activaSalir;  ///< the close button of the strip
 };
 extern Escena escena;
 
@@ -34,6 +37,9 @@ void ActivaOrdenesPlantilla();
 void MuestraGasolinoOndas(const QString& titulo);
 void PonGasolinoOndas(int valor);
 void DescargaGasolinoOndas();
+void MuestraCancelar();
+void DescargaCancelar();
+void ActivaSalir(bool activa);
 
 /// Pointer shapes by their number: the default, the hourglass, and the one of the program's own, which is a
 /// cross on a plot and a busy arrow elsewhere.

@@ -21,6 +21,7 @@ Cancelar::Cancelar()
     todo->setContentsMargins(8 * letra, 3 * letra, 8 * letra, 3 * letra);
     todo->addWidget(cdmCancelar);
     PonBotones(cdmCancelar, cdmCancelar);
+    setWindowModality(Qt::ApplicationModal);  // nothing else takes input while a print may be stopped
     Centra(*this);
     Conecta(cdmCancelar, &QPushButton::clicked, this, &Cancelar::cdmCancelar_Click);
 }

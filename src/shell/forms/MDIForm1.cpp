@@ -22,6 +22,7 @@
 #include "record/abrir_registro.h"
 #include "record/avance.h"
 #include "shell/ajustes.h"
+#include "shell/forms/Cancelar.h"
 #include "shell/forms/FrmMenu.h"
 #include "shell/forms/gasolino.h"
 #include "shell/forms/gasolino_ondas.h"
@@ -122,6 +123,9 @@ void MDIForm1::LlenaGanchos()
         if (gasolino_ondas* g = gasolino_ondas::unica.Cargado()) g->Pon(valor);
     };
     escena.descargaGasolinoOndas = [] { gasolino_ondas::unica.Descarga(); };
+    escena.muestraCancelar = [] { Cancelar::unica.Muestra(); };
+    escena.descargaCancelar = [] { Cancelar::unica.Descarga(); };
+    escena.activaSalir = [this](bool activa) { cmdSalir->setEnabled(activa); };
     ganchosRegistro.EscribeSesion = [] { EscribeSesion(store); };
     ganchosRegistro.MuestraGasolino = [] { gasolino::unica.CargaNueva().show(); };
     ganchosRegistro.DescargaGasolino = [] { gasolino::unica.Descarga(); };

@@ -1,0 +1,144 @@
+#include "platform/forms/ImpresoraQt.h"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPagedPaintDevice>
+#include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/errores.h"
+#include "platform/forms/escena.h"
+
+namespace veldix {
+
+namespace {
+
+constexpr double kTwipsPorPulgada = 1440.0, kTwipsPorPunto = 20.0, kGruesosPorPulgada = 300.0;
+constexpr double kMilimetrosPorPulgada = 25.4;
+
+/// Whole twips: a paper of 210 mm is 11906 wide.
+double DeMilimetros(double mm)
+{
+    return std::round(mm * kTwipsPorPulgada / kMilimetrosPorPulgada);
+}
+
+}  // namespace
+
+/// The least margins that the paper allows put the origin at the printable corner.
+ImpresoraQt::ImpresoraQt(QPagedPaintDevice& dispositivo, ModoColor color, std::function<void()> anula)
+    : dispositivo_(dispositivo), color_(color), anula_(std::move(anula))
+{
+    dispositivo_.setPageMargins(dispositivo_.pageLayout().minimumMargins(),
+                                dispositivo_.pageLayout().units());
+    const double puntos = QGuiApplication::font().pointSizeF();
+    if (puntos > 0.0) Letra.puntos = puntos;
+}
+
+ImpresoraQt::~ImpresoraQt()
+{
+    if (pintor_.isActive()) pintor_.end();
+}
+
+Orientacion ImpresoraQt::Sentido() const
+{
+    const bool ancho = dispositivo_.pageLayout().orientation() == QPageLayout::Landscape;
+    return ancho ? Orientacion::Horizontal : Orientacion::Vertical;
+}
+
+void ImpresoraQt::PonSentido(Orientacion o)
+{
+    dispositivo_.setPageOrientation(o == Orientacion::Horizontal ? QPageLayout::Landscape
+                                                                 : QPageLayout::Portrait);
+}
+
+double ImpresoraQt::Ancho() const
+{
+    return DeMilimetros(dispositivo_.pageLayout().fullRect(QPageLayout::Millimeter).width());
+}
+
+double ImpresoraQt::Alto() const
+{
+    return DeMilimetros(dispositivo_.pageLayout().fullRect(QPageLayout::Millimeter).height());
+}
+
+QFont ImpresoraQt::Fuente() const
+{
+    QFont f = QGuiApplication::font();
+    f.setPixelSize(std::max(1, qRound(Letra.puntos * kTwipsPorPunto)));  // a pixel of the page is a twip
+    f.setBold(Letra.negrita);
+    return f;
+}
+
+double ImpresoraQt::AnchoTexto(const std::string& texto) const
+{
+    return QFontMetricsF(Fuente()).horizontalAdvance(Q(texto));
+}
+
+double ImpresoraQt::AltoTexto() const
+{
+    return QFontMetricsF(Fuente()).height();
+}
+
+QPainter& ImpresoraQt::Pintor()
+{
+    if (!pintor_.isActive()) {
+        if (!pintor_.begin(&dispositivo_)) Lanza(error::kEntradaSalida);
+        pintor_.scale(dispositivo_.logicalDpiX() / kTwipsPorPulgada,
+                      dispositivo_.logicalDpiY() / kTwipsPorPulgada);
+    }
+    return pintor_;
+}
+
+void ImpresoraQt::Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color)
+{
+    QPolygonF puntos;
+    const std::size_t total = std::min(xs.size(), ys.size());
+    puntos.reserve(static_cast<qsizetype>(total));
+    for (std::size_t i = 0; i < total; ++i)
+        puntos << QPointF(xs[i], ys[i]);
+    QPen pluma{QColor::fromRgb(color)};
+    pluma.setWidthF(Grosor * kTwipsPorPulgada / kGruesosPorPulgada);
+    pluma.setJoinStyle(Qt::RoundJoin);
+    Pintor().setPen(pluma);
+    Pintor().drawPolyline(puntos);
+}
+
+void ImpresoraQt::Escribe(double x, double y, const std::string& texto)
+{
+    const QFont fuente = Fuente();
+    Pintor().setFont(fuente);
+    Pintor().setPen(Qt::black);
+    Pintor().drawText(QPointF(x, y + QFontMetricsF(fuente).ascent()), Q(texto));
+}
+
+void ImpresoraQt::PonRecorte(double izquierda, double arriba, double derecha, double abajo)
+{
+    Pintor().setClipRect(QRectF(QPointF(izquierda, arriba), QPointF(derecha, abajo)));
+}
+
+void ImpresoraQt::QuitaRecorte()
+{
+    Pintor().setClipping(false);
+}
+
+void ImpresoraQt::PaginaNueva()
+{
+    static_cast<void>(Pintor());
+    if (!dispositivo_.newPage()) Lanza(error::kEntradaSalida);
+}
+
+void ImpresoraQt::Termina()
+{
+    if (pintor_.isActive() && !pintor_.end()) Lanza(error::kEntradaSalida);
+}
+
+void ImpresoraQt::Anula()
+{
+    if (!pintor_.isActive()) return;
+    if (anula_) anula_();
+    pintor_.end();
+}
+
+}  // namespace veldix

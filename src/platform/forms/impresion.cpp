@@ -1,0 +1,80 @@
+#include "platform/forms/impresion.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include <utility>
+
+#include "platform/avisos.h"
+#include "platform/errores.h"
+#include "platform/forms/ImpresoraQt.h"
+#include "platform/forms/escena.h"
+
+namespace veldix {
+
+namespace {
+
+std::function<std::optional<PeticionImpresion>()> g_responde;
+
+/// The one printer of the program: what a print sets, such as the orientation, stays for the next one. It is
+/// never freed, since the toolkit that it needs goes first.
+QPrinter& ImpresoraDelPrograma()
+{
+    static auto* const impresora = new QPrinter(QPrinter::HighResolution);
+    impresora->setFullPage(false);
+    return *impresora;
+}
+
+/// The invisible owner of the dialog, a quarter of the view from its corner.
+class frm_centrar : public QWidget {
+public:
+    explicit frm_centrar(QSize plot) : QWidget(escena.principal)
+    {
+        setObjectName("frm_centrar");
+        move(plot.width() / 4, plot.height() / 4);
+        resize(1, 1);
+    }
+};
+
+std::optional<PeticionImpresion> MuestraDialogo(QSize plot)
+{
+    QPrinter& impresora = ImpresoraDelPrograma();
+    frm_centrar centro(plot);
+    QPrintDialog dialogo(&impresora, &centro);
+    dialogo.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialogo.adjustSize();
+    dialogo.move(centro.mapToGlobal(QPoint(0, 0)));
+    if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+    PeticionImpresion p;
+    p.copias = std::max(1, impresora.copyCount());
+    impresora.setCopyCount(1);  // the program draws every copy itself
+    p.fichero = !impresora.outputFileName().isEmpty();
+    const bool color = impresora.colorMode() == QPrinter::Color;
+    p.impresora = std::make_shared<ImpresoraQt>(impresora, color ? ModoColor::Color : ModoColor::Monocromo,
+                                                [&impresora] { impresora.abort(); });
+    return p;
+}
+
+}  // namespace
+
+void ConImpresora(QSize plot, const std::function<void(const PeticionImpresion&)>& trabajo)
+{
+    const auto peticion = g_responde ? g_responde() : MuestraDialogo(plot);
+    if (!peticion) return;
+    try {
+        trabajo(*peticion);
+        peticion->impresora->Termina();
+    } catch (const std::exception&) {
+        const ErrorEjecucion e = ErrorEnVuelo();
+        Intenta([&] { peticion->impresora->Termina(); });
+        PunteroNormal();
+        AvisaError(e);
+    }
+}
+
+void PonDialogoImpresion(std::function<std::optional<PeticionImpresion>()> responde)
+{
+    g_responde = std::move(responde);
+}
+
+}  // namespace veldix

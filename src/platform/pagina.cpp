@@ -1,0 +1,32 @@
+#include "platform/pagina.h"
+
+#include <array>
+
+namespace veldix {
+
+Marco MarcoPagina(double ancho, double alto)
+{
+    return {ancho * 0.009, alto * 0.009, ancho * 0.942, alto * 0.945};
+}
+
+double ColumnaDerecha(double alto)
+{
+    return alto * 0.75;
+}
+
+void PintaMarco(Impresora& impresora, const Marco& m)
+{
+    impresora.Linea(m.izquierda, m.arriba, m.derecha, m.arriba, 0);
+    impresora.Linea(m.derecha, m.arriba, m.derecha, m.abajo, 0);
+    impresora.Linea(m.derecha, m.abajo, m.izquierda, m.abajo, 0);
+    impresora.Linea(m.izquierda, m.abajo, m.izquierda, m.arriba, 0);
+}
+
+void EscribeEn(Impresora& impresora, double x, double y, const std::string& texto)
+{
+    impresora.X = x;
+    impresora.Y = y;
+    impresora.Texto(texto);
+}
+
+}  // namespace veldix
