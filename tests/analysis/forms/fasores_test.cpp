@@ -14,7 +14,9 @@
 #include "analysis/forms/frmSecuencias.h"
 #include "analysis/modDFT.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/impresion.h"
 #include "platform/textos.h"
+#include "support/grabadora.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -217,6 +219,42 @@ TEST_F(FasoresTest, ZoomTooDeepEndsTheViewOrTellsNothing)
     Pulsa("cmdmenos", f);
     EXPECT_NEAR(Linea("lnCor1", f).length(), largo, 0.001 * largo);
     EXPECT_EQ(Texto("lblCorSecPos", f), texto);
+}
+
+TEST_F(FasoresTest, CopiesAreDocumentsButInAFileAndNothingMovesTheBar)
+{
+    using Tipo = prueba::OperacionPagina::Tipo;
+    Elige({"fas1"});
+    frmFases* f = frmFases::unica.Cargado();
+    f->Barra()->setValue(112);
+    auto impresora = std::make_shared<prueba::Grabadora>();
+    bool fichero = false, cancela = true;
+    PonDialogoImpresion([&]() -> std::optional<PeticionImpresion> {
+        impresora->ops.clear();
+        impresora->sentido = Orientacion::Vertical;
+        if (cancela) return std::nullopt;
+        return PeticionImpresion{impresora, 2, fichero};
+    });
+    Pulsa("pctimpresora", f);
+    EXPECT_TRUE(impresora->ops.empty());
+    cancela = false;
+    for (; !cancela; cancela = fichero, fichero = true) {
+        Pulsa("pctimpresora", f);
+        EXPECT_EQ(impresora->De(Tipo::Poligonal).size(), 2U * (10U + 3U * 2U));
+        EXPECT_NEAR(impresora->De(Tipo::Poligonal)[1].xs[0], 0.942 * 16838.0, 0.01);
+        EXPECT_EQ(impresora->De(Tipo::Pagina).size(), fichero ? 1U : 0U);
+        EXPECT_EQ(impresora->De(Tipo::Termina).size(), fichero ? 1U : 3U);  // the last one of nothing
+    }
+    EXPECT_EQ(impresora->Primero("C1: ").texto.find(" @ "), std::string::npos);
+    EXPECT_EQ(impresora->Primero("Muestra").texto, Texto("lblNumero", f));
+    EXPECT_EQ(f->Barra()->value(), 112);
+    EXPECT_FALSE(f->testAttribute(Qt::WA_SetCursor));
+    cancela = false;
+    store.Trifasic(1).Factor = "x";
+    cajas.Espera("Error 13: Type mismatch", Icono::Critico);
+    Pulsa("pctimpresora", f);
+    EXPECT_EQ(frmFases::unica.Cargado(), f);
+    PonDialogoImpresion({});
 }
 
 TEST_F(FasoresTest, AViewLeftStandingGoesByTheModeItWasOpenedIn)
