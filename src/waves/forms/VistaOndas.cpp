@@ -7,6 +7,7 @@
 #include "platform/forms/etiquetas.h"
 #include "platform/forms/iconos.h"
 #include "platform/textos.h"
+#include "record/forms/imprime_copias.h"
 #include "record/record_store.h"
 #include "waves/colores.h"
 #include "waves/plot.h"
@@ -43,7 +44,6 @@ void VistaOndas::CreaBotones()
     cmdadel = crea("cmdadel", IconoAdelante(), Q(Rotulo(51, "Zoom siguiente")));
     cmdatras = crea("cmdatras", IconoAtras(), Q(Rotulo(52, "Zoom anterior")));
     pctimpresora = crea("pctimpresora", IconoImprimir(), Q(Rotulo(57, "Imprimir")));
-    pctimpresora->setEnabled(false);
 }
 
 void VistaOndas::Conexiones()
@@ -53,6 +53,7 @@ void VistaOndas::Conexiones()
     Conecta(cmdzoom, &QPushButton::clicked, this, &VistaOndas::cmdzoom_Click);
     Conecta(cmdadel, &QPushButton::clicked, this, &VistaOndas::cmdadel_Click);
     Conecta(cmdatras, &QPushButton::clicked, this, &VistaOndas::cmdatras_Click);
+    Conecta(pctimpresora, &QPushButton::clicked, this, &VistaOndas::pctimpresora_Click);
     Conecta(plot_, &Lienzo::PideDibujo, this, &VistaOndas::Plot_PideDibujo);
 }
 
@@ -163,6 +164,18 @@ void VistaOndas::CambiaNivel(int paso)
     Historia().Mueve(paso);
     const PunteroEspera espera(*this);
     Redibuja();
+}
+
+void VistaOndas::pctimpresora_Click()
+{
+    ImprimeCopias(*this, plot_->size(), [this](Impresora& impresora) {
+        const auto hoja = Hoja(impresora);
+        if (hoja)
+            ImprimeHoja(impresora, *hoja);
+        else
+            Avisa(Textos(80));
+        return hoja.has_value();
+    });
 }
 
 void VistaOndas::Form_Resize()

@@ -9,6 +9,7 @@
 #include "platform/forms/formulario.h"
 #include "waves/historia_zoom.h"
 #include "waves/lugares_onda.h"
+#include "waves/pagina_ondas.h"
 
 namespace veldix {
 
@@ -44,6 +45,8 @@ protected:
     /// The texts of a cursor that moved: 1 the yellow one, 2 the cyan one. Both cursors lie in the record.
     virtual void PonTextos(int cursor) = 0;
     virtual void cmdzoom_Click() = 0;
+    /// The page of what stands, or nothing where its stretch is no step wide.
+    virtual std::optional<HojaOndas> Hoja(Impresora& impresora) = 0;
 
     void Form_Resize() override;
     void Form_Minimiza() override;
@@ -84,6 +87,7 @@ private:
     void cmdadel_Click();
     void cmdatras_Click();
     void CambiaNivel(int paso);
+    void pctimpresora_Click();
 
     double anchoZoom_ = 0.0;  ///< that the zoom button asks for with its picture, twips
 };

@@ -189,6 +189,13 @@ void frmTodoanalog::PonTextos(int cursor)
     lblet->Recoge(cursor == 1 ? kEtiquetas - 1 : kEtiquetas);
 }
 
+std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)
+{
+    return HojaDeTodo(store, impresora, bandas_, zoom_.Fila(zoom_.NivelZoom),
+                      static_cast<float>(plot_->Alto()),
+                      {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
+}
+
 void frmTodoanalog::cmdzoom_Click()
 {
     zoom_.ZoomPendiente = true;

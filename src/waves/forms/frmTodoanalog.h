@@ -29,6 +29,7 @@ protected:
     HistoriaZoom& Historia() override { return zoom_; }
     double XCursor(float cursor) const override;
     void PonTextos(int cursor) override;
+    std::optional<HojaOndas> Hoja(Impresora& impresora) override;
     void cmdzoom_Click() override;
 
 private:

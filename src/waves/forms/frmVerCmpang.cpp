@@ -218,6 +218,13 @@ void frmVerCmpang::PonTextos(int cursor)
     PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
 }
 
+std::optional<HojaOndas> frmVerCmpang::Hoja(Impresora& impresora)
+{
+    return HojaDeComposicion(store, impresora, canales_, zoom_.Pila(zoom_.NivelZoom + 1), EscalaY,
+                             store.NumVentanasComp,
+                             {U(windowTitle()), Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
+}
+
 void frmVerCmpang::HScroll_Amar_Change()
 {
     lblam->Corre();

@@ -31,6 +31,7 @@ protected:
     void Curvas(int s, int e) override;
     float& FactorZoomY() override { return factorZoomY_; }
     void PonTextos(int cursor) override;
+    std::optional<HojaOndas> Hoja(Impresora& impresora) override;
 
 private:
     void CreaControles();

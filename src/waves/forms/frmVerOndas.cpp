@@ -131,6 +131,13 @@ void frmVerOndas::PonTextos(int)
     textoMs_ = lblms->text();
 }
 
+std::optional<HojaOndas> frmVerOndas::Hoja(Impresora& impresora)
+{
+    return HojaDeOnda(
+        store, impresora, Canal_, zoom_.Pila(zoom_.NivelZoom + 1), EscalaY,
+        {NombreCanal(store, Canal_), Cursor1, Cursor2, U(textoDif_), U(textoMs_), FechaImpresion()});
+}
+
 void frmVerOndas::Form_Unload()
 {
     store.EnPrimario = false;

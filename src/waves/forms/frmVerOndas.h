@@ -25,6 +25,7 @@ protected:
     void Curvas(int s, int e) override;
     float& FactorZoomY() override { return store.FactorZoomY; }
     void PonTextos(int cursor) override;
+    std::optional<HojaOndas> Hoja(Impresora& impresora) override;
 
 private:
     void ColocaControles();
