@@ -17,11 +17,7 @@ bool FasoresDe(const Argumentos& a, const Consola& consola)
 {
     if (!AbreRegistroDe(a.sueltos[0], consola)) return false;
     AplicaReferenciaDe(a);
-    if (MuestrasCiclo(store) == 0) {
-        Avisa(
-            Rotulo(283, consola.espanol ? "Menos de una muestra por ciclo." : "Less than a sample a cycle."));
-        return false;
-    }
+    if (CicloDe(consola) == 0) return false;
     CalculaDFT(store);
     return !store.FasoresDFT.Vacia();
 }
@@ -47,11 +43,7 @@ void EscribeTabla(std::ostream& s, const Tabla2<float>& fasores, const std::vect
 /// not have it or does not fit the record.
 bool EligeGrupo(int grupo, const Consola& consola)
 {
-    if (store.PlantillaNoValida) {
-        Avisa(Rotulo(246, consola.espanol ? "La plantilla no es de este registro."
-                                          : "The template does not fit the record."));
-        return false;
-    }
+    if (!CabePlantilla(consola)) return false;
     if (grupo > store.NumTrifasic) {
         Avisa((consola.espanol ? "La plantilla no tiene el grupo trifásico "
                                : "The template has no three-phase group ") +
@@ -65,6 +57,23 @@ bool EligeGrupo(int grupo, const Consola& consola)
 }
 
 }  // namespace
+
+std::int16_t CicloDe(const Consola& consola)
+{
+    const std::int16_t ciclo = MuestrasCiclo(store);
+    if (ciclo == 0)
+        Avisa(
+            Rotulo(283, consola.espanol ? "Menos de una muestra por ciclo." : "Less than a sample a cycle."));
+    return ciclo;
+}
+
+bool CabePlantilla(const Consola& consola)
+{
+    if (store.PlantillaNoValida)
+        Avisa(Rotulo(246, consola.espanol ? "La plantilla no es de este registro."
+                                          : "The template does not fit the record."));
+    return !store.PlantillaNoValida;
+}
 
 Salida OrdenPhasors(const Argumentos& a, const Consola& consola)
 {

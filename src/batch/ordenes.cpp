@@ -9,11 +9,11 @@
 #include "platform/avisos.h"
 #include "platform/ficheros.h"
 #include "platform/perfil.h"
+#include "platform/rutas.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "shell/ajustes.h"
-#include "platform/rutas.h"
 #include "templates/plantilla.h"
 
 namespace veldix {
@@ -24,6 +24,7 @@ struct Orden {
     const char* nombre;
     std::size_t minimo, maximo;  // words behind the name
     bool referencia, grupo;      // takes --reference, needs --group
+    bool pagina;                 // takes --channels, --sample and --monochrome
     Salida (*corre)(const Argumentos&, const Consola&);
     const char* uso;
     const char* es;
@@ -31,19 +32,24 @@ struct Orden {
 };
 
 constexpr Orden kOrdenes[] = {
-    {"info", 1, 2, false, false, OrdenInfo, "info REC.dat [TEMPLATE.cnf]",
+    {"info", 1, 2, false, false, false, OrdenInfo, "info REC.dat [TEMPLATE.cnf]",
      "escribe el registro, y la plantilla si se da, como JSON",
      "writes the record, and the template if given, as JSON"},
-    {"samples", 1, 1, true, false, OrdenSamples, "samples REC.dat [--reference primary|secondary]",
+    {"samples", 1, 1, true, false, false, OrdenSamples, "samples REC.dat [--reference primary|secondary]",
      "escribe las muestras como CSV, las señales en las unidades del registro",
      "writes the samples as CSV, in the units of the record"},
-    {"phasors", 1, 1, true, false, OrdenPhasors, "phasors REC.dat [--reference primary|secondary]",
+    {"phasors", 1, 1, true, false, false, OrdenPhasors, "phasors REC.dat [--reference primary|secondary]",
      "escribe los fasores de los canales analógicos como CSV, eficaces y en grados",
      "writes the phasors of the analog channels as CSV, RMS and degrees"},
-    {"sequences", 2, 2, true, true, OrdenSequences,
+    {"sequences", 2, 2, true, true, false, OrdenSequences,
      "sequences REC.dat TEMPLATE.cnf --group G [--reference primary|secondary]",
      "escribe las secuencias del grupo trifásico G de la plantilla como CSV",
      "writes the sequences of the template's three-phase group G as CSV"},
+    {"report", 2, 3, true, false, true, OrdenReport,
+     "report REC.dat [TEMPLATE.cnf] OUT.pdf [--channels 1,3,5-8] [--sample N]\n"
+     "      [--reference primary|secondary] [--monochrome]",
+     "imprime en un PDF las páginas de las vistas; la muestra, si no se da, es la del disparo",
+     "prints the pages of the views into a PDF; the sample, where none is given, is the trigger's"},
 };
 
 const Orden* BuscaOrden(const std::string& nombre)
@@ -86,19 +92,39 @@ bool TomaOpcion(const std::vector<std::string>& args, std::size_t& i, std::strin
     return false;
 }
 
-/// 1 to 999, or 0 for a text that is no such number.
-int NumeroDeGrupo(const std::string& texto)
+/// 1 to 32767, or 0 for a text that is no such number.
+int NumeroNatural(const std::string& texto)
 {
     int numero = 0;
     const char* fin = texto.data() + texto.size();
     const auto [hasta, fallo] = std::from_chars(texto.data(), fin, numero);
-    return fallo == std::errc() && hasta == fin && numero >= 1 && numero <= 999 ? numero : 0;
+    return fallo == std::errc() && hasta == fin && numero >= 1 && numero <= 32767 ? numero : 0;
+}
+
+/// A list of numbers and stretches, "1,3,5-8"; nothing for any other text.
+std::optional<std::vector<int>> Lista(const std::string& texto)
+{
+    std::vector<int> numeros;
+    for (std::size_t i = 0; i <= texto.size();) {
+        const std::size_t coma = std::min(texto.find(',', i), texto.size());
+        const std::string tramo = texto.substr(i, coma - i);
+        const std::size_t guion = tramo.find('-');
+        const int desde = NumeroNatural(tramo.substr(0, guion));
+        const int hasta = guion == std::string::npos ? desde : NumeroNatural(tramo.substr(guion + 1));
+        if (desde < 1 || hasta < desde) return std::nullopt;
+        for (int k = desde; k <= hasta; ++k)
+            numeros.push_back(k);
+        i = coma + 1;
+    }
+    return numeros;
 }
 
 struct Linea {
     std::vector<std::string> sueltos;
-    std::optional<std::string> idioma, referencia, grupo;
-    bool ayuda = false, mal = false;
+    std::optional<std::string> idioma, referencia, grupo, canales, muestra;
+    bool monocromo = false, ayuda = false, mal = false;
+
+    bool DePagina() const { return canales || muestra || monocromo; }
 };
 
 Linea ParteArgumentos(const std::vector<std::string>& args)
@@ -112,17 +138,33 @@ Linea ParteArgumentos(const std::vector<std::string>& args)
             opciones = false;
         else if (args[i] == "--help" || args[i] == "-h")
             l.ayuda = true;
+        else if (args[i] == "--monochrome")
+            l.monocromo = true;
         else if (!TomaOpcion(args, i, "--lang", l.idioma) &&
                  !TomaOpcion(args, i, "--reference", l.referencia) &&
-                 !TomaOpcion(args, i, "--group", l.grupo))
+                 !TomaOpcion(args, i, "--group", l.grupo) && !TomaOpcion(args, i, "--channels", l.canales) &&
+                 !TomaOpcion(args, i, "--sample", l.muestra))
             l.mal = true;
     }
     const auto fuera = [](const std::optional<std::string>& v, const char* uno, const char* otro) {
         return v && *v != uno && *v != otro;
     };
     l.mal = l.mal || fuera(l.idioma, "es", "en") || fuera(l.referencia, "primary", "secondary") ||
-            (l.grupo && NumeroDeGrupo(*l.grupo) < 1);
+            (l.grupo && NumeroNatural(*l.grupo) < 1) || (l.muestra && NumeroNatural(*l.muestra) < 1) ||
+            (l.canales && !Lista(*l.canales));
     return l;
+}
+
+Argumentos ArgumentosDe(const Linea& l)
+{
+    Argumentos a;
+    a.sueltos.assign(l.sueltos.begin() + 1, l.sueltos.end());
+    a.referencia = l.referencia.value_or("");
+    a.grupo = NumeroNatural(l.grupo.value_or(""));
+    if (l.canales) a.canales = Lista(*l.canales).value_or(std::vector<int>{});
+    a.muestra = NumeroNatural(l.muestra.value_or(""));
+    a.monocromo = l.monocromo;
+    return a;
 }
 
 /// Language texts and code page, where the settings folder is there.
@@ -188,7 +230,8 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
     }
     const std::size_t palabras = linea.sueltos.empty() ? 0 : linea.sueltos.size() - 1;
     if (!orden || linea.mal || palabras < orden->minimo || palabras > orden->maximo ||
-        (linea.referencia && !orden->referencia) || linea.grupo.has_value() != orden->grupo) {
+        (linea.referencia && !orden->referencia) || (linea.DePagina() && !orden->pagina) ||
+        linea.grupo.has_value() != orden->grupo) {
         EscribeUso(consola.mensajes, consola.espanol, orden);
         return Salida::MalUso;
     }
@@ -201,10 +244,7 @@ Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& ru
     });
     Salida salida = Salida::Fallida;
     try {
-        salida = orden->corre({{linea.sueltos.begin() + 1, linea.sueltos.end()},
-                               linea.referencia.value_or(""),
-                               NumeroDeGrupo(linea.grupo.value_or(""))},
-                              consola);
+        salida = orden->corre(ArgumentosDe(linea), consola);
     } catch (const std::exception&) {
         AvisaError(ErrorEnVuelo());
     }

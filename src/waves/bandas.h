@@ -7,7 +7,7 @@
 namespace veldix {
 
 /// x of the first sample of a plot in bands, and what its curves leave free of the width. Twips.
-inline constexpr float kMargenBandas = 50.0F;
+inline constexpr float kMargenBandas = 50.0F, kMargenesBandas = 150.0F;
 
 /// Rows of `Canales` that `OndaCanal` marks, rising.
 std::vector<int> CanalesMarcados(const RecordStore& s);

@@ -12,7 +12,6 @@ namespace veldix {
 namespace {
 
 constexpr int kEtiquetas = 16;  // two a channel
-constexpr float kMargenes = 150.0F;
 
 void PonFondo(QLabel* etiqueta, QRgb color)
 {
@@ -30,7 +29,7 @@ Portador<frmTodoanalog> frmTodoanalog::unica;
 frmTodoanalog::frmTodoanalog()
     : VistaOndas({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", Icono::Critico,
                   Icono::Ninguno}),
-      zoom_(kMargenes)
+      zoom_(kMargenesBandas)
 {
     CreaControles();
     Conecta(lblet, &EtiquetasCorridas::Change, this, &frmTodoanalog::HScroll_Nombres_Change);
