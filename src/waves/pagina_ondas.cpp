@@ -128,8 +128,8 @@ void PonMarcasTiempo(HojaOndas& h, Redactor& r, double escala, int porSegundo)
         h.rayas.push_back(
             {m.lugar, p.abajo, m.lugar, p.abajo + (m.rotulo.empty() ? 0.5 : 1.0) * kLargoMarca});
         if (m.rotulo.empty()) continue;
-        const double alto = r.Alto(kNormal);
-        r.Pon(m.lugar - alto / 2.0, p.abajo + kLargoMarca, m.rotulo, kNormal);
+        const double alto = r.Alto(kPequena);  // half a height, whatever the width
+        r.Pon(m.lugar - alto / 2.0, p.abajo + kLargoMarca, m.rotulo, kPequena);
     }
 }
 

@@ -70,7 +70,7 @@ bool EtiquetasCorridas::eventFilter(QObject* objeto, QEvent* evento)
     if (evento->type() != QEvent::MouseButtonRelease) return false;
     if (static_cast<QMouseEvent*>(evento)->button() != Qt::LeftButton) return false;
     const auto sitio = std::find(etiquetas_.begin(), etiquetas_.end(), objeto);
-    if (sitio != etiquetas_.end()) Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
+    if (sitio != etiquetas_.end() && (*sitio)->isEnabled()) Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
     return false;
 }
 

@@ -75,6 +75,9 @@ void FilasRanura::Desmarca()
 
 bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)
 {
+    // A filter sees the mouse of a disabled row too.
+    const auto* fila = qobject_cast<QWidget*>(objeto);
+    if (!fila || !fila->isEnabled()) return QWidget::eventFilter(objeto, evento);
     const int k = objeto->property("ranura").toInt();
     const bool nombre = qobject_cast<QLineEdit*>(objeto) != nullptr;
     const auto izquierdo = [&] { return static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton; };

@@ -10,6 +10,7 @@
 #include "shell/forms/FrmMenu.h"
 #include "shell/forms/frmAbrirComtrade.h"
 #include "shell/forms/frmDirect.h"
+#include "templates/forms/cadena.h"
 #include "templates/forms/frmPlantilla.h"
 #include "templates/plantilla.h"
 #include "waves/forms/frmNewCompanalog.h"
@@ -61,7 +62,10 @@ void FrmMenu::ConectaMenus()
 void FrmMenu::mnuAbrirComtrade_Click()
 {
     const bool abierto = frmAbrirComtrade().Carga();
-    if (abierto) DescargaSelectores();
+    if (abierto) {
+        DescargaSelectores();
+        AbandonaPaginas();
+    }
     if (principal.muestraRegistro) principal.muestraRegistro();
     if (abierto && store.FormatoDat == "ASCII") frmPlantilla::unica.Muestra();
 }
@@ -69,6 +73,7 @@ void FrmMenu::mnuAbrirComtrade_Click()
 void FrmMenu::mnuCerrarComtrade_Click()
 {
     DescargaSelectores();
+    AbandonaPaginas();
     CierraRegistro(store);
     if (principal.muestraRegistro) principal.muestraRegistro();
 }

@@ -39,6 +39,7 @@ void PasaDigitales()
 
 void EmpiezaPaginas()
 {
+    frmSalvaPlan::unica.Descarga();  // of an earlier set-up: it would write this one's tables half edited
     if (Atrapa(nullptr, PasaAnalogicos))
         frmTrifasic::unica.Muestra();
     else
@@ -66,6 +67,12 @@ void MuestraAntesDeGuardar()
 void DescargaPaginas()
 {
     frmTrifasic::unica.Descarga();
+}
+
+void AbandonaPaginas()
+{
+    DescargaPaginas();
+    frmSalvaPlan::unica.Descarga();
 }
 
 void CancelaPaginas()

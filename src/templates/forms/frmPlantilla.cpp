@@ -49,7 +49,7 @@ void frmPlantilla::CreaControles()
     cmdBuscar = CreaBoton(this, "cmdBuscar", 27, "Abrir");
     cmdModif = CreaBoton(this, "cmdModif", 28, "modificar");
     cmdNueva = CreaBoton(this, "cmdNueva", 29, "nueva");
-    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "cancelar");
     PonBotones(cmdBuscar, cmdcancel);
 }
 

@@ -25,6 +25,7 @@ private:
     void Form_Load();
 
     void File1_Click();
+    static std::string RutaPlantilla(const std::string& tronco);
     void cmdOK_Click();
     void cmdvolver_Click();
     void cmdcancel_Click();

@@ -110,6 +110,7 @@ TEST_F(Paginas, SlotsDifferFromTheWorkedExampleOrAMissingPhasePasses)
     Elige("p.cnf", "cmdModif");
     Asigna(1, {1});  // not in use: takes nothing
     Teclea("txtnumTrif", "1");
+    QTest::mouseClick(Da<QLabel>("lblpunt22"), Qt::LeftButton);  // nor does its row
     EXPECT_EQ(Puestas("1") + Puestas("2"), "*,,,,,");
     Asigna(1, {1, 4, 2, 3, 3});
     EXPECT_EQ(Puestas("1"), ",1,2*3");
