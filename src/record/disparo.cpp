@@ -39,7 +39,8 @@ std::optional<double> Microsegundos(std::string_view texto, bool mesPrimero)
         campos[i] = *campo;
     }
     using namespace std::chrono;
-    const year_month_day fecha{year(static_cast<int>(campos[2])),
+    const int siglo = campos[2] >= 100.0 ? 0 : (campos[2] >= 70.0 ? 1900 : 2000);  // of a year of two digits
+    const year_month_day fecha{year(siglo + static_cast<int>(campos[2])),
                                month(static_cast<unsigned>(campos[mesPrimero ? 0 : 1])),
                                day(static_cast<unsigned>(campos[mesPrimero ? 1 : 0]))};
     if (!fecha.ok() || campos[3] >= 24.0 || campos[4] >= 60.0 || campos[5] >= 61.0) return std::nullopt;

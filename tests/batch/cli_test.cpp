@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -7,6 +8,8 @@
 #include <vector>
 
 #include "batch/ordenes.h"
+#include "record/disparo.h"
+#include "support/grabadora.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -182,6 +185,107 @@ TEST_F(Cli, FailureOrWrongUsageEndsWellOrPrintsAHalfResult)
     Da("--lang en info d/formato.dat", "The format line of the .cfg file is not valid.");
     Da("--lang es info d/formato.dat", "La línea de formato del fichero .cfg no es válida.");
     EXPECT_TRUE(Corre("samples d/rec.dat --help --lang en").starts_with("Usage:"));
+}
+
+/// The pages of a report as its titles tell them, and whether it was ended.
+class Informe : public Cli {
+protected:
+    Informe()
+    {
+        creaPdf = [this](const std::string& ruta, ModoColor color) {
+            pdf = ruta;
+            auto nueva = std::make_unique<prueba::Grabadora>(16838.0, 11906.0, color);
+            impresora = nueva.get();
+            impresora->alAcabar = [this](const prueba::Grabadora& g) { ops = g.ops; };
+            return nueva;
+        };
+    }
+    ~Informe() override { creaPdf = nullptr; }
+    std::string Titulos() const
+    {
+        std::string s;
+        int paginas = ops.empty() ? 0 : 1;
+        for (const auto& o : ops) {
+            if (o.tipo == Tipo::Pagina) ++paginas;
+            if (o.texto == "PHASES" || o.texto == "SEQUENCES") s += o.texto + " ";
+            if (o.texto == "Analog channels ") s += "waves ";
+        }
+        const bool acabado = !ops.empty() && ops.back().tipo == Tipo::Termina;
+        return s + std::to_string(paginas) + (acabado ? " ended" : "");
+    }
+    using Tipo = prueba::OperacionPagina::Tipo;
+    std::string pdf;
+    prueba::Grabadora* impresora = nullptr;
+    std::vector<prueba::OperacionPagina> ops;
+};
+
+TEST_F(Informe, PagesAreMissingOrInAnotherOrder)
+{
+    EXPECT_EQ(Corre("--lang en report ej/falta_1997.dat ej/falta.cnf d/o.pdf --reference primary"), "");
+    EXPECT_EQ(Titulos(),
+              "waves waves waves waves waves waves waves waves waves "
+              "PHASES SEQUENCES PHASES SEQUENCES 13 ended");
+    EXPECT_TRUE(pdf.ends_with("d/o.pdf"));
+    const auto de = [this](const std::string& texto) {
+        return std::ranges::any_of(ops,
+                                   [&](const auto& o) { return o.texto.find(texto) != std::string::npos; });
+    };
+    EXPECT_TRUE(de("Sample no. 337"));  // nearest to the trigger
+    EXPECT_EQ(Corre("--lang=en report ej/falta_1991.dat d/o.pdf --channels 2,5-6 --sample=385 --monochrome"),
+              "");
+    EXPECT_EQ(Titulos(), "waves waves waves waves 4 ended");
+    EXPECT_TRUE(de("Sample no. 385") && !de("Tensión fase A"));
+    EXPECT_TRUE(std::ranges::none_of(ops, [](const auto& o) { return o.color != 0; }));
+}
+
+TEST_F(Informe, BadWordsOrRecordsWriteSomething)
+{
+    for (const char* linea : {"report d/rec.dat", "report d/rec.dat d/o.pdf --channels 2-1",
+                              "report d/rec.dat d/o.pdf --channels 1,", "report d/rec.dat d/o.pdf --sample 0",
+                              "samples d/rec.dat --sample 1", "info d/rec.dat --monochrome"})
+        EXPECT_EQ(Corre(linea).substr(0, 2), "2U") << linea;
+    EXPECT_EQ(Corre("--lang en report d/rec.dat d/o.pdf --sample 3"),
+              "2veldix-cli: The record has no such sample.\n");
+    EXPECT_EQ(Corre("--lang en report d/rec.dat d/o.pdf --channels 3"),
+              "2veldix-cli: The record has no such channel.\n");
+    EXPECT_EQ(Corre("report d/nada.dat d/o.pdf").front(), '1');
+    c.Escribe("d/grande.cnf", ConFinales("ver 1.1|P|ANALOGICOS|3|1%a%b%V$|2%a%b%V$|3%a%b%V$|-----"));
+    EXPECT_EQ(Corre("report d/rec.dat d/grande.cnf d/o.pdf").front(), '1');
+    c.Escribe("d/una.cfg",
+              ConFinales("S,R|2,2A,0D|1,a,,,V,1,0,0,-9,9|2,b,,,V,1,0,0,-9,9|50|1|1000,1|x|y|ASCII"));
+    c.Escribe("d/una.dat", "1,0,5,6\r\n");
+    EXPECT_EQ(Corre("report d/una.dat d/o.pdf").front(), '1');
+    EXPECT_TRUE(ops.empty());
+}
+
+TEST(Disparo, IsAnotherSampleOrOneOfADateThatCannotBeRead)
+{
+    RecordStore s;
+    s.FrecMuestras = Tabla1<std::int16_t>(1);
+    s.FrecMuestras(1) = 1000;
+    s.Muestras = Tabla2<float>(100, 1);
+    const struct {
+        const char *revision, *inicio, *disparo;
+        int muestra;
+    } casos[] = {{"1997", "31/12/1999,23:59:59.990000", "01/01/2000,00:00:00.010400", 21},
+                 {"1991", "12/31/99,23:59:59.99", "01/01/00,00:00:00.01", 21},
+                 {"1991", "02/28/96,23:59:59.99", "02/29/96,00:00:00.0151", 26},
+                 {"1997", "02/28/1996,23:59:59", "02/29/1996,00:00:00", 0},
+                 {"1997", " 1/2/2003 , 4:05:06.5", "1/2/2003,4:5:6.4", 1},
+                 {"1997", "1/2/2003,4:05:06.5x", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "", "1/2/2003,4:5:6.6", 0}};
+    for (const auto& c : casos) {
+        s.RevisionCfg = c.revision;
+        s.FechaInicio = c.inicio;
+        s.FechaDisparo = c.disparo;
+        EXPECT_EQ(MuestraDeDisparo(s).value_or(0), c.muestra) << c.inicio;
+    }
+    s.FechaDisparo = "1/2/2003,4:5:6.505", s.FechaInicio = "1/2/2003,4:5:6.5";
+    s.Tiempos = Tabla1<float>(100);
+    s.TimeMult = 2;
+    for (int i = 1; i <= 100; ++i)
+        s.Tiempos(i) = static_cast<float>(7000 + 250 * i);
+    EXPECT_EQ(MuestraDeDisparo(s).value_or(0), 11);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -50,7 +51,11 @@ public:
     }
     void QuitaRecorte() override { Anota(OperacionPagina::Tipo::SinRecorte); }
     void PaginaNueva() override { Anota(OperacionPagina::Tipo::Pagina); }
-    void Termina() override { Anota(OperacionPagina::Tipo::Termina); }
+    void Termina() override
+    {
+        Anota(OperacionPagina::Tipo::Termina);
+        if (alAcabar) alAcabar(*this);
+    }
     void Anula() override { Anota(OperacionPagina::Tipo::Anula); }
 
     /// The operations of a kind, in their order.
@@ -71,6 +76,7 @@ public:
 
     Orientacion sentido = Orientacion::Horizontal;
     std::vector<OperacionPagina> ops;
+    std::function<void(const Grabadora&)> alAcabar;  ///< takes what it logged before it goes
 
 protected:
     void Escribe(double x, double y, const std::string& texto) override

@@ -4,6 +4,7 @@
 
 #include "platform/forms/BarraCursor.h"
 #include "platform/forms/EtiquetasCorridas.h"
+#include "platform/forms/ImpresoraPdf.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -54,6 +55,41 @@ TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
     barra.setValue(0);
     EXPECT_TRUE(una->text() == "corto" && otra->text() == "b");
     EXPECT_EQ(prueba::NumeroDeError([&] { e.Pon(3, ""); }), error::kSubindice);
+}
+
+TEST(ImpresoraPdf, AFileIsWholeOrAsItWasAndItsPagesAreLandscape)
+{
+    const prueba::Carpeta c;
+    const std::string ruta = c.Escribe("o.pdf", "viejo");
+    const auto impresora = CreaImpresoraPdf(ruta, ModoColor::Color);
+    EXPECT_EQ(impresora->Ancho(), 11906.0);
+    impresora->PonSentido(Orientacion::Horizontal);
+    EXPECT_EQ(impresora->Ancho(), 16838.0);
+    EXPECT_EQ(impresora->Alto(), 11906.0);
+    impresora->Termina();
+    EXPECT_EQ(prueba::LeeTodo(ruta), "viejo");  // nothing was drawn
+    impresora->Linea(0, 0, 16838, 11906, 0xFF0000);
+    impresora->Anula();
+    EXPECT_EQ(prueba::LeeTodo(ruta), "viejo");
+
+    const auto otra = CreaImpresoraPdf(ruta, ModoColor::Color);
+    otra->PonSentido(Orientacion::Horizontal);
+    otra->X = 1000.0;
+    otra->Texto("ancho");
+    EXPECT_GT(otra->X, 1000.0 + otra->AltoTexto());
+    otra->TextoLinea("uno");
+    EXPECT_TRUE(otra->X == 0.0 && otra->Y == otra->AltoTexto());
+    EXPECT_NEAR(otra->AltoTexto(), otra->Letra.puntos * 20.0 * 1.2, otra->Letra.puntos * 5.0);
+    otra->PaginaNueva();
+    otra->Termina();
+    const std::string pdf = prueba::LeeTodo(ruta);
+    EXPECT_TRUE(pdf.starts_with("%PDF"));
+    EXPECT_NE(pdf.find("/MediaBox [0 0 842"), std::string::npos);
+    EXPECT_NE(pdf.find("/Count 2"), std::string::npos);
+
+    const auto fuera = CreaImpresoraPdf(c.Ruta("no/o.pdf"), ModoColor::Color);
+    fuera->Linea(0, 0, 1, 1, 0);
+    EXPECT_EQ(prueba::NumeroDeError([&] { fuera->Termina(); }), error::kRutaNoEncontrada);
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include "platform/forms/impresion.h"
+#include "support/grabadora.h"
 #include "waves/forms/frmNewOndas.h"
 #include "waves/forms/frmVerOndas.h"
 #include "waves/forms/registro_ondas.h"
@@ -289,6 +291,29 @@ TEST_F(OndasTest, DrawsAxesAndEverySampleAndNoVerticalAxisOnceZoomed)
     v->Plot()->PonGrabadora(nullptr);
 }
 
+TEST_F(OndasTest, APageIsThatOfTheLevelAndLeavesTheSharedFactor)
+{
+    frmVerOndas* v = Ventana(3);
+    Amplia(v, {200, 100}, {400, 200});
+    Da<QScrollBar>("HScroll2", v)->setValue(Da<QScrollBar>("HScroll2", v)->value() + 5);
+    store.FactorZoomY = 7.0F;  // of another window's zoom
+    auto impresora = std::make_shared<prueba::Grabadora>();
+    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 1, false}; });
+    Pulsa("pctimpresora", v);
+    PonDialogoImpresion({});
+    EXPECT_EQ(store.FactorZoomY, 7.0F);
+    const auto curva = impresora->De(prueba::OperacionPagina::Tipo::Poligonal).back();
+    const Vistos vistos = Estado(v);
+    EXPECT_EQ(static_cast<int>(curva.xs.size()), vistos[3] - vistos[0] + 1);
+    EXPECT_EQ(curva.color, 0x0000FFU);
+    EXPECT_EQ(impresora->Primero("5,000 ms").texto, Texto("lblms", v));
+    EXPECT_EQ(impresora->Primero(Texto("lblDif", v)).texto, Texto("lblDif", v));
+    const double ry = (0.82 * 11906 - 0.05 * 16838) / v->Plot()->Alto();
+    const auto& nivel = v->Zoom().Pila(2);
+    const double unidad = (v->Plot()->Alto() - v->Plot()->Alto() / 25) / 2 / 40 * nivel.FactorZoomY * ry;
+    EXPECT_NEAR(curva.ys[0], 841.9 + nivel.OrigenY * ry - Valor(vistos[0], 2) * unidad, 0.5);
+}
+
 TEST_F(OndasTest, NarrowBoxesAreCriticalAndFailuresCloseTheWindow)
 {
     Registro(1);
@@ -299,6 +324,10 @@ TEST_F(OndasTest, NarrowBoxesAreCriticalAndFailuresCloseTheWindow)
     Arrastra(v, {10, 10}, {900, 300});
     ASSERT_EQ(store.VentanaOnda(3), v);
     EXPECT_EQ(Estado(v), (Vistos{1, 1, 1, 1, 0, 1}));
+    PonDialogoImpresion([] { return PeticionImpresion{std::make_shared<prueba::Grabadora>(), 2, false}; });
+    cajas.Espera("El tramo elegido es demasiado corto: debe abarcar al menos dos muestras.", Icono::Ninguno);
+    Pulsa("pctimpresora", v);
+    PonDialogoImpresion({});
     EXPECT_EQ(v->Plot()->cursor().shape(), Qt::ArrowCursor);
     v->Descarga();
 

@@ -1,3 +1,7 @@
+#include <QTimer>
+
+#include "platform/forms/impresion.h"
+#include "support/grabadora.h"
 #include "waves/forms/frmNewOndas.h"
 #include "waves/forms/frmTodoanalog.h"
 #include "waves/forms/registro_ondas.h"
@@ -144,6 +148,66 @@ TEST_F(TodoTest, TheThirtyFirstZoomAndABadColumnCloseTheWindow)
     cajas.Espera("Error 13: Type mismatch", Icono::Critico);
     EXPECT_EQ(Abre({1}), nullptr);
     EXPECT_TRUE(menu && avance.ends_with(']') && !frmNewOndas::unica.Cargado());
+}
+
+/// Copies of a page, what the user does before each, and what the view is meanwhile.
+TEST_F(TodoTest, CancelarEndsAPrintBehindTheCopiesThatWereDrawn)
+{
+    using Tipo = prueba::OperacionPagina::Tipo;
+    frmTodoanalog* v = Abre({1, 2});
+    auto impresora = std::make_shared<prueba::Grabadora>();
+    int copia = 0, cancelaEn = 0, tira = 0;
+    bool activa = true, cancela = false;
+    PonDialogoImpresion([&]() -> std::optional<PeticionImpresion> {
+        impresora->ops.clear();
+        impresora->sentido = Orientacion::Vertical;
+        copia = 0;
+        if (cancela) return std::nullopt;
+        return PeticionImpresion{impresora, 3, false};
+    });
+    escena.muestraCancelar = [&] {
+        activa = activa && v->isEnabled();
+        if (++copia == cancelaEn) QTimer::singleShot(0, v, [] { store.CancelaImpresion = true; });
+    };
+    escena.descargaCancelar = [] { store.CancelaImpresion = true; };  // as its unload does
+    escena.activaSalir = [&](bool si) { tira += si ? 1 : -1; };
+    const struct {
+        int cancelaEn;
+        std::size_t paginas, curvas;
+    } casos[] = {{0, 2, 6}, {2, 0, 2}, {1, 0, 0}};
+    for (const auto& c : casos) {
+        cancelaEn = c.cancelaEn;
+        activa = true;
+        Pulsa("pctimpresora", v);
+        EXPECT_EQ(impresora->De(Tipo::Pagina).size(), c.paginas);
+        EXPECT_EQ(impresora->De(Tipo::Recorte).size() * 2, c.curvas);
+        EXPECT_EQ(impresora->De(Tipo::Termina).size(), 1U);
+        EXPECT_EQ(impresora->sentido, Orientacion::Horizontal);
+        EXPECT_TRUE(!activa && v->isEnabled() && tira >= 0);
+    }
+    cancela = true;
+    Pulsa("pctimpresora", v);
+    EXPECT_TRUE(impresora->ops.empty());
+    cancela = false;
+    cancelaEn = 0;
+    store.FrecMuestras(1) = 0;
+    cajas.Espera("Error 11: Division by zero", Icono::Critico);
+    Pulsa("pctimpresora", v);
+    EXPECT_EQ(impresora->De(Tipo::Termina).size(), 1U);
+    EXPECT_TRUE(frmTodoanalog::unica.Cargado() && v->isEnabled());
+    PonDialogoImpresion({});
+}
+
+TEST_F(TodoTest, AViewThatGoesWhileItMayBeCancelledPrintsNothing)
+{
+    frmTodoanalog* v = Abre({1});
+    auto impresora = std::make_shared<prueba::Grabadora>();
+    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 2, false}; });
+    escena.muestraCancelar = [&] { v->Descarga(); };
+    Pulsa("pctimpresora", v);
+    EXPECT_TRUE(impresora->De(prueba::OperacionPagina::Tipo::Poligonal).empty());
+    EXPECT_TRUE(menu);
+    PonDialogoImpresion({});
 }
 
 }  // namespace
