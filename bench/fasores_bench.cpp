@@ -6,15 +6,14 @@
 #include <QMdiArea>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 
 #include "analysis/forms/frmFases.h"
 #include "analysis/grupos.h"
 #include "analysis/modDFT.h"
+#include "medir.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
@@ -96,36 +95,20 @@ struct Llano {
     }
 };
 
-double Mide(const std::function<void()>& paso)
-{
-    const auto antes = std::chrono::steady_clock::now();
-    paso();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count();
-}
-
-/// Best times in milliseconds of steps that take turns.
-std::vector<double> Mejores(const std::vector<std::function<void()>>& pasos, int rondas = kRondas)
-{
-    std::vector<double> mejores(pasos.size(), 1e9);
-    for (int ronda = 0; ronda < rondas; ++ronda)
-        for (std::size_t i = 0; i < pasos.size(); ++i)
-            mejores[i] = std::min(mejores[i], Mide(pasos[i]));
-    return mejores;
-}
-
 bool Transformada()
 {
     const Llano llano;
     Tabla2<float> escalar, sumas, copia;
     const std::vector<double> t = Mejores({
-        [] { CalculaDFT(store); },
-        [&] { Llano().Suma(escalar); },
-        [&] { llano.Suma(sumas); },
-        [&] {
-            copia = Tabla2<float>(kFilas, 2 * kCanales);
-            std::memcpy(copia.fila(1), escalar.fila(1), kOctetos);
-        },
-    });
+                                              [] { CalculaDFT(store); },
+                                              [&] { Llano().Suma(escalar); },
+                                              [&] { llano.Suma(sumas); },
+                                              [&] {
+                                                  copia = Tabla2<float>(kFilas, 2 * kCanales);
+                                                  std::memcpy(copia.fila(1), escalar.fila(1), kOctetos);
+                                              },
+                                          },
+                                          kRondas);
     const bool iguales = std::memcmp(escalar.fila(1), store.FasoresDFT.fila(1), kOctetos) == 0;
     std::printf("CalculaDFT %.2f ms, scalar definition %.2f ms, its sums alone %.2f ms, copy %.2f ms\n", t[0],
                 t[1], t[2], t[3]);
@@ -218,7 +201,8 @@ void MideVista()
                                                [&] {
                                                    vista.Ventana().resize(ancho = 2400 - ancho + 1, 700);
                                                    pinta();
-                                               }});
+                                               }},
+                                              kRondas);
     std::printf("frmFases: open %.1f ms, zoom step %.2f ms, resize %.2f ms\n", apertura, otros[0], otros[1]);
     std::printf("  bar step %.3f ms, six texts and six lines alone %.3f ms, ratio %.2f\n", pasos[0], pasos[1],
                 pasos[0] / pasos[1]);

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "platform/forms/FilasRanura.h"
+#include "platform/forms/escena.h"
 #include "platform/forms/formulario.h"
 #include "platform/ranuras.h"
+#include "platform/tabla.h"
 #include "record/forms/MarcoReferencia.h"
 
 namespace veldix {
@@ -37,6 +39,25 @@ protected:
     /// The dialog gives way to the gauge. From here on a failure undoes the opening.
     void EmpiezaApertura(int avance);
     void AcabaApertura();
+    /// Shows the windows that live, of which `abiertas` are left: one that failed has closed itself, so that
+    /// the menu goes only when another is there.
+    template <class V>
+    static void MuestraVentanas(const Tabla1<V*>& ventanas, int abiertas)
+    {
+        if (abiertas == 0) return;
+        OcultaMenu();
+        for (V* ventana : ventanas) {
+            if (!ventana) continue;
+            ventana->Ventana().showNormal();
+            ventana->Plot()->setFocus();
+        }
+    }
+    template <class V>
+    static void DescargaVentanas(const Tabla1<V*>& ventanas)
+    {
+        for (V* ventana : ventanas)
+            if (ventana) ventana->Descarga();
+    }
 
     QListWidget* List1;
     MarcoReferencia* referencia_;

@@ -64,12 +64,12 @@ double VistaOndas::AltoBajoPlot(double bajo) const
     return bajo - ATwips(marco);
 }
 
-MedidasOnda VistaOndas::Medidas(double alto) const
+MedidasOnda VistaOndas::Medidas(double alto, bool unaFila) const
 {
     const QFontMetrics letra(font());
     MedidasOnda m;
-    m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), alto / 2.0);
-    m.altoEtiqueta = qMin(ATwips(letra.height()), alto - m.altoBarra);
+    m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), unaFila ? alto : alto / 2.0);
+    m.altoEtiqueta = qMin(ATwips(letra.height()), unaFila ? alto : alto - m.altoBarra);
     m.anchoZoom = anchoZoom_;
     m.anchoNumero = ATwips(letra.horizontalAdvance(Q(TextoMuestra(32767)) + " "));
     m.anchoTiempo = ATwips(letra.horizontalAdvance("00000.000 ms "));

@@ -73,7 +73,8 @@ void frmNewCompanalog::cmdOK_Click()
         EmpiezaApertura(30);
         referencia_->Aplica();
         AbreVentanas();
-        MuestraVentanas();
+        MuestraVentanas(store.VentanaComp, store.NumVentanasComp);
+        store.CompAbierta = store.NumVentanasComp > 0;
         AcabaApertura();
     }
 }
@@ -95,22 +96,9 @@ void frmNewCompanalog::AbreVentanas()
     PonGasolinoOndas(100);
 }
 
-void frmNewCompanalog::MuestraVentanas()
-{
-    if (store.NumVentanasComp == 0) return;
-    OcultaMenu();
-    for (frmVerCmpang* ventana : store.VentanaComp) {
-        if (!ventana) continue;
-        ventana->Ventana().showNormal();
-        ventana->Plot()->setFocus();
-    }
-    store.CompAbierta = true;
-}
-
 void frmNewCompanalog::Deshace()
 {
-    for (frmVerCmpang* ventana : store.VentanaComp)
-        if (ventana) ventana->Descarga();
+    DescargaVentanas(store.VentanaComp);
     store.NumVentanasComp = 0;
 }
 

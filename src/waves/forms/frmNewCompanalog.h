@@ -20,7 +20,6 @@ private:
     void cmdOK_Click();
     void cmdcancel_Click();
     void AbreVentanas();
-    void MuestraVentanas();
 
     QPushButton *cmdOK, *cmdcancel;
 };

@@ -110,7 +110,7 @@ void frmNewOndas::AbreVentanas(int cuenta)
     PonGasolinoOndas(60);
     ActivaVentanas(lugares);
     PonGasolinoOndas(80);
-    MuestraVentanas();
+    MuestraVentanas(store.VentanaOnda, store.NumVentanasOnda);
     PonGasolinoOndas(100);
 }
 
@@ -125,18 +125,6 @@ void frmNewOndas::ActivaVentanas(const std::vector<Lugar>& lugares)
         while (store.OndaCanal(r) != 1);
         store.VentanaOnda(r) = new frmVerOndas(r);
         store.VentanaOnda(r)->Form_activo(l.alto, l.ancho, l.arriba, l.izquierda);
-    }
-}
-
-/// A window that failed has closed itself, so that the menu goes only when one is left.
-void frmNewOndas::MuestraVentanas()
-{
-    if (store.NumVentanasOnda == 0) return;
-    OcultaMenu();
-    for (frmVerOndas* ventana : store.VentanaOnda) {
-        if (!ventana) continue;
-        ventana->Ventana().showNormal();
-        ventana->Plot()->setFocus();
     }
 }
 
@@ -165,8 +153,7 @@ void frmNewOndas::cmdtodo_Click()
 
 void frmNewOndas::Deshace()
 {
-    for (frmVerOndas* ventana : store.VentanaOnda)
-        if (ventana) ventana->Descarga();
+    DescargaVentanas(store.VentanaOnda);
     store.NumVentanasOnda = 0;
 }
 

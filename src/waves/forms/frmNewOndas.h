@@ -27,7 +27,6 @@ private:
     int CuentaElegidos();
     void AbreVentanas(int cuenta);
     void ActivaVentanas(const std::vector<Lugar>& lugares);
-    void MuestraVentanas();
 
     QGroupBox *Frame1, *Frame2;
     FilasRanura* filas_;

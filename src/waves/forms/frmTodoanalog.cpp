@@ -68,7 +68,7 @@ void frmTodoanalog::ColocaControles()
 {
     const double bajo = AltoBajoPlot(kBajoTodo);
     const auto l = ColocaTodo(AnchoVentana(), AltoVentana(), ATwips(Interior().width()), bajo,
-                              static_cast<int>(canales_.size()), Medidas(bajo - 2.0 * kHueco));
+                              static_cast<int>(canales_.size()), Medidas(bajo, true));
     if (!l) return;
     {
         const QSignalBlocker calla(plot_);  // it is drawn again by the caller
@@ -91,6 +91,8 @@ void frmTodoanalog::ColocaEtiquetas(const LugaresTodo& l)
         QLabel* etiqueta = lblet->Etiqueta(k);
         Pon(etiqueta, l.lblet[static_cast<std::size_t>(k - 1)]);
         etiqueta->setWordWrap(l.lineasEtiqueta > 1);
+        // What does not fit is lost at the beginning of the name, not at the value.
+        etiqueta->setAlignment(Qt::AlignLeft | (l.lineasEtiqueta > 1 ? Qt::AlignBottom : Qt::AlignVCenter));
         etiqueta->setVisible(true);
     }
 }

@@ -17,9 +17,14 @@ namespace {
 constexpr int kPantallaEstrecha = 800, kMenorLinea = 11;  // pixels
 constexpr int kLineas = 3;                                // of a name and its value
 
-QString NumeroRgb(std::uint32_t color)
+constexpr int kFranja = 5;  // pixels of a curve's colour at its label's edge
+
+void PonFondo(QWidget* control, std::uint32_t color)
 {
-    return QString("#%1").arg(color, 6, 16, QChar('0'));
+    QPalette p = control->palette();
+    p.setColor(QPalette::Window, QColor::fromRgb(color));
+    control->setPalette(p);
+    control->setAutoFillBackground(true);
 }
 
 /// A button whose face is the grey picture, for a caption alone; without the picture a plain one.
@@ -51,9 +56,9 @@ frmVerCmpang::frmVerCmpang()
 void frmVerCmpang::CreaControles()
 {
     marcamar = CreaEtiqueta(this, "marcamar");
-    marcamar->setStyleSheet("background-color: " + NumeroRgb(kCursorAmarillo));
+    PonFondo(marcamar, kCursorAmarillo);
     marcaci = CreaEtiqueta(this, "marcaci");
-    marcaci->setStyleSheet("background-color: " + NumeroRgb(kCursorCian));
+    PonFondo(marcaci, kCursorCian);
     HScroll_Amar = new BarraCursor("HScroll_Amar", "Cursor 1, " + Q(Rotulo(256, "Canales elegidos")), this);
     HScroll_Cian = new BarraCursor("HScroll_Cian", "Cursor 2, " + Q(Rotulo(256, "Canales elegidos")), this);
     lblam = CreaColumna("lblam", HScroll_Amar);
@@ -67,7 +72,9 @@ EtiquetasCorridas* frmVerCmpang::CreaColumna(const char* nombre, BarraCursor* ba
     std::vector<QLabel*> etiquetas;
     for (int k = 1; k <= kCanalesComp; ++k) {
         etiquetas.push_back(CreaEtiqueta(this, QString(nombre) + QString::number(k)));
+        etiquetas.back()->setContentsMargins(kFranja + 2, 0, 0, 0);
         etiquetas.back()->hide();
+        (new QLabel(etiquetas.back()))->setGeometry(0, 0, kFranja, QWIDGETSIZE_MAX);
     }
     return new EtiquetasCorridas(etiquetas, barra, this);
 }
@@ -164,13 +171,14 @@ void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasC
     Pon(barra, c.barra);
     QFont letra = font();
     const int alto = APixeles(c.etiquetas[0].alto), pide = QFontMetrics(letra).height();
-    const int linea = alto >= kLineas * kMenorLinea ? alto / kLineas : alto;
+    const int lineas = qBound(1, alto / kMenorLinea, kLineas), linea = alto / lineas;
     if (linea < pide) letra.setPixelSize(qMax(7, QFontInfo(letra).pixelSize() * linea / pide));
     for (int k = 1; k <= textos->Cuantas(); ++k) {
         QLabel* etiqueta = textos->Etiqueta(k);
         Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);
         etiqueta->setFont(letra);
         etiqueta->setWordWrap(linea < alto);
+        etiqueta->setAlignment(Qt::AlignLeft | (linea < alto ? Qt::AlignBottom : Qt::AlignVCenter));
     }
 }
 
@@ -199,11 +207,8 @@ void frmVerCmpang::PonEtiquetas(EtiquetasCorridas* textos, int muestra)
     for (std::size_t k = 0; k < canales_.size(); ++k) {
         const int r = canales_[k], n = static_cast<int>(k) + 1;
         QLabel* etiqueta = textos->Etiqueta(n);
-        if (etiqueta->isHidden()) {
-            etiqueta->setStyleSheet("QLabel { border: 0px; padding-left: 2px; border-left: 5px solid " +
-                                    NumeroRgb(ColorComposicion(store, n)) + "; }");
-            etiqueta->setVisible(true);
-        }
+        etiqueta->setVisible(true);
+        PonFondo(etiqueta->findChild<QLabel*>(), ColorComposicion(store, n));
         textos->Pon(n, EtiquetaCanal(store, r) + ": " +
                            TextoValor(store.Muestras(muestra, columnas_[k]), store.Canales(r).Unidades));
     }
