@@ -24,7 +24,8 @@ struct Escena {
     std::function<void(const QString&)> muestraGasolinoOndas;
     std::function<void(int)> ponGasolinoOndas;
     std::function<void()> descargaGasolinoOndas;
-    std::function<void()> muestraCancelar;  ///< the box that stops a print, alone with the user's input
+    /// The box that stops a print, alone with the user's input; one that stands already stays.
+    std::function<void()> muestraCancelar;
     std::function<void()> descargaCancelar;
     std::function<void(bool)> activaSalir;  ///< the close button of the strip
 };

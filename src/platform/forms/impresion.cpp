@@ -25,21 +25,21 @@ QPrinter& ImpresoraDelPrograma()
     return *impresora;
 }
 
-/// The invisible owner of the dialog, a quarter of the view from its corner.
+/// The invisible owner of the dialog.
 class frm_centrar : public QWidget {
 public:
-    explicit frm_centrar(QSize plot) : QWidget(escena.principal)
+    explicit frm_centrar(QSize tamano) : QWidget(escena.principal)
     {
         setObjectName("frm_centrar");
-        move(plot.width() / 4, plot.height() / 4);
+        move(tamano.width() / 4, tamano.height() / 4);
         resize(1, 1);
     }
 };
 
-std::optional<PeticionImpresion> MuestraDialogo(QSize plot)
+std::optional<PeticionImpresion> MuestraDialogo(QSize tamano)
 {
     QPrinter& impresora = ImpresoraDelPrograma();
-    frm_centrar centro(plot);
+    frm_centrar centro(tamano);
     QPrintDialog dialogo(&impresora, &centro);
     dialogo.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialogo.adjustSize();
@@ -57,9 +57,9 @@ std::optional<PeticionImpresion> MuestraDialogo(QSize plot)
 
 }  // namespace
 
-void ConImpresora(QSize plot, const std::function<void(const PeticionImpresion&)>& trabajo)
+void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo)
 {
-    const auto peticion = g_responde ? g_responde() : MuestraDialogo(plot);
+    const auto peticion = g_responde ? g_responde() : MuestraDialogo(tamano);
     if (!peticion) return;
     try {
         trabajo(*peticion);

@@ -17,10 +17,10 @@ struct PeticionImpresion {
     bool fichero = false;  ///< it prints to a file, which a second document would replace
 };
 
-/// Shows the system's print dialog over a view whose plot has this size, pixels, and runs `trabajo` with its
-/// answer. Nothing happens where the user cancels. A run-time error of the work ends the document and shows
-/// the common box; the caller stands.
-void ConImpresora(QSize plot, const std::function<void(const PeticionImpresion&)>& trabajo);
+/// Shows the system's print dialog a quarter of `tamano`, pixels, from the window's corner, and runs
+/// `trabajo` with its answer. Nothing happens where the user cancels. A run-time error of the work ends the
+/// document and shows the common box; the caller stands.
+void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo);
 
 /// For tests: answers in place of the dialog; an empty function brings it back.
 void PonDialogoImpresion(std::function<std::optional<PeticionImpresion>()> responde);

@@ -4,6 +4,7 @@
 
 #include "platform/forms/escena.h"
 #include "platform/forms/impresion.h"
+#include "platform/textos.h"
 #include "record/record_store.h"
 
 namespace veldix {
@@ -35,10 +36,10 @@ private:
     QPointer<Vista> vista_;
 };
 
-/// A moment for the user. An unload of the earlier box sets the flag too, so that it is cleared behind that.
+/// A moment for the user. A press made while a page was drawn waits in the queue, for the box that stood
+/// then: the box therefore stands until the last copy, and the flag is cleared before the queue is served.
 bool Cancelada(Ocupada& ocupada)
 {
-    DescargaCancelar();
     store.CancelaImpresion = false;
     ocupada.Trabaja();
     MuestraCancelar();
@@ -50,10 +51,11 @@ bool Cancelada(Ocupada& ocupada)
 
 }  // namespace
 
-void ImprimeCopias(Vista& vista, QSize plot, const std::function<bool(Impresora&)>& pagina)
+void ImprimeCopias(Vista& vista, const std::function<bool(Impresora&)>& pagina)
 {
     const QPointer<Vista> viva(&vista);
-    ConImpresora(plot, [&](const PeticionImpresion& p) {
+    bool compuesta = true;
+    ConImpresora(vista.size(), [&](const PeticionImpresion& p) {
         if (!viva) return;
         Ocupada ocupada(vista);
         for (int copia = 1; copia <= p.copias; ++copia) {
@@ -62,9 +64,11 @@ void ImprimeCopias(Vista& vista, QSize plot, const std::function<bool(Impresora&
             if (Cancelada(ocupada)) return;
             if (copia > 1) p.impresora->PaginaNueva();
             p.impresora->Grosor = 1;
-            if (!pagina(*p.impresora)) return;
+            compuesta = pagina(*p.impresora);
+            if (!compuesta) return;
         }
     });
+    if (!compuesta) Avisa(Textos(80));
 }
 
 }  // namespace veldix

@@ -8,6 +8,8 @@
 #include <QTime>
 #include <QVBoxLayout>
 
+#include <utility>
+
 #include "analysis/forms/frmFases.h"
 #include "analysis/forms/frmSecuencias.h"
 #include "platform/ficheros.h"
@@ -109,9 +111,7 @@ void MDIForm1::LlenaGanchos()
     escena.principal = this;
     escena.area = area_;
     escena.muestraMenu = [this] { MuestraMenu(); };
-    escena.ocultaMenu = [] {
-        if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->Ventana().hide();
-    };
+    escena.ocultaMenu = [this] { OcultaMenu(); };
     escena.leeDirectorios = [] { Atrapa(nullptr, [] { LeeDirectorios(store); }); };
     escena.activaPlantilla = [] {
         FrmMenu::DescargaSelectores();
@@ -123,7 +123,9 @@ void MDIForm1::LlenaGanchos()
         if (gasolino_ondas* g = gasolino_ondas::unica.Cargado()) g->Pon(valor);
     };
     escena.descargaGasolinoOndas = [] { gasolino_ondas::unica.Descarga(); };
-    escena.muestraCancelar = [] { Cancelar::unica.Muestra(); };
+    escena.muestraCancelar = [] {
+        if (!Cancelar::unica.Cargado()) Cancelar::unica.Muestra();
+    };
     escena.descargaCancelar = [] { Cancelar::unica.Descarga(); };
     escena.activaSalir = [this](bool activa) { cmdSalir->setEnabled(activa); };
     ganchosRegistro.EscribeSesion = [] { EscribeSesion(store); };
@@ -141,6 +143,19 @@ void MDIForm1::MuestraMenu()
     if (FrmMenu* menu = FrmMenu::unica.Cargado()) {
         menu->Ventana().showMaximized();
         area_->setActiveSubWindow(&menu->Ventana());
+    }
+    for (const QPointer<Formulario>& form : std::exchange(apartadas_, {}))
+        if (form && !form->Descargado()) form->show();
+}
+
+void MDIForm1::OcultaMenu()
+{
+    if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->Ventana().hide();
+    for (Formulario* form : findChildren<Formulario*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool deVista = form == gasolino_ondas::unica.Cargado() || form == Cancelar::unica.Cargado();
+        if (!form->isWindow() || !form->isVisible() || deVista) continue;
+        form->hide();
+        apartadas_.emplace_back(form);
     }
 }
 

@@ -3,15 +3,18 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
 #include <string>
+#include <vector>
 
 #include "platform/forms/EtiquetaRuta.h"
 
 namespace veldix {
 
+class Formulario;
 class Vista;
 
 /// The main window: an area of child windows and the permanent strip below it.
@@ -53,6 +56,8 @@ private:
     void AbreDeLinea(const std::string& dat);
     void PlantillaDeLinea(const std::string& plantilla);
     void MuestraMenu();
+    /// Windows that the menu opened go out of reach with it, and come back with it.
+    void OcultaMenu();
 
     void Reloj_Timer();
     void cmdSalir_Click();
@@ -69,6 +74,7 @@ private:
     QPushButton* cmdSalir;
     QTimer* Reloj;
     std::string linea_;
+    std::vector<QPointer<Formulario>> apartadas_;  ///< since the menu was hidden
     bool descargado_ = false;
 };
 

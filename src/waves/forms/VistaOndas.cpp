@@ -168,12 +168,9 @@ void VistaOndas::CambiaNivel(int paso)
 
 void VistaOndas::pctimpresora_Click()
 {
-    ImprimeCopias(*this, plot_->size(), [this](Impresora& impresora) {
+    ImprimeCopias(*this, [this](Impresora& impresora) {
         const auto hoja = Hoja(impresora);
-        if (hoja)
-            ImprimeHoja(impresora, *hoja);
-        else
-            Avisa(Textos(80));
+        if (hoja) ImprimeHoja(impresora, *hoja);
         return hoja.has_value();
     });
 }

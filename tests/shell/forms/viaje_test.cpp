@@ -11,9 +11,14 @@
 #include "analysis/forms/frmSecuencias.h"
 #include "platform/forms/ListaCarpetas.h"
 #include "platform/forms/dialogo_fichero.h"
+#include "platform/forms/impresion.h"
+#include "shell/forms/Cancelar.h"
 #include "shell/forms/FrmMenu.h"
 #include "support/arbol.h"
+#include "support/grabadora.h"
 #include "templates/forms/frmPlantilla.h"
+#include "waves/forms/frmNewOndas.h"
+#include "waves/forms/frmTodoanalog.h"
 
 namespace veldix {
 namespace {
@@ -97,7 +102,9 @@ TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
     EXPECT_EQ(store.NombreEstacion, "MI LINEA");
     EXPECT_NE(Ini("ficher.ini").find(c.Ruta("t.cnf")), std::string::npos) << "session not written";
 
+    Accion("mnuPlantilla")->trigger();  // stands with the menu, and comes back with it
     Fasores({"fas1"});
+    EXPECT_TRUE(frmPlantilla::unica.Cargado() && !frmPlantilla::unica.Cargado()->isVisible());
     frmFases* fases = frmFases::unica.Cargado();
     ASSERT_TRUE(fases && fases->Ventana().isVisible());
     EXPECT_FALSE(MenuALaVista());
@@ -106,6 +113,8 @@ TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
     Pulsa("cmdSalir", nullptr);
     EXPECT_FALSE(frmFases::unica.Cargado());
     EXPECT_TRUE(MenuALaVista() && FrmMenu::unica.Cargado()->Ventana().isMaximized());
+    EXPECT_TRUE(frmPlantilla::unica.Cargado()->isVisible());
+    frmPlantilla::unica.Descarga();
 
     store.Muestras(1, 1) = 1e6F;  // the transform is not run again
     Fasores({"fas1", "sec1"});
@@ -120,6 +129,43 @@ TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
     EXPECT_TRUE(MenuALaVista());
     Accion("mnuCerrarComtrade")->trigger();
     EXPECT_TRUE(store.FasoresDFT.Vacia() && store.Secuencias.Vacia() && !store.DFTHecha);
+}
+
+/// A printer whose first page is long enough for a press of `Cancelar`, which waits in the queue.
+class Lenta : public prueba::Grabadora {
+public:
+    void QuitaRecorte() override
+    {
+        Grabadora::QuitaRecorte();
+        if (++paginas != 1) return;
+        auto* boton = Cancelar::unica.Cargado()->findChild<QPushButton*>("cdmCancelar");
+        for (const auto tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(
+                boton, new QMouseEvent(tipo, {5, 5}, boton->mapToGlobal(QPointF{5, 5}), Qt::LeftButton,
+                                       Qt::LeftButton, {}));
+    }
+    int paginas = 0;
+};
+
+TEST_F(Viaje, APressOfCancelarWhileAPageIsDrawnIsLost)
+{
+    Abre("seno.dat");
+    EligePlantilla();
+    const auto impresora = std::make_shared<Lenta>();
+    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 3, false}; });
+    Accion("mnuCanalog")->trigger();
+    auto* lista = Hijo<QListWidget>("List1", frmNewOndas::unica.Cargado());
+    Q_EMIT lista->itemDoubleClicked(lista->item(0));
+    Pulsa("cmdtodo", frmNewOndas::unica.Cargado());
+    ASSERT_TRUE(frmTodoanalog::unica.Cargado());
+    Pulsa("pctimpresora", frmTodoanalog::unica.Cargado());
+    EXPECT_EQ(impresora->paginas, 1);
+    EXPECT_FALSE(Cancelar::unica.Cargado());
+    Pulsa("pctimpresora", frmTodoanalog::unica.Cargado());
+    EXPECT_EQ(impresora->paginas, 4);  // nothing is left of the press
+    PonDialogoImpresion({});
+    Pulsa("cmdSalir", nullptr);
+    EXPECT_TRUE(MenuALaVista());
 }
 
 TEST_F(Viaje, TemplateIsAskedForBehindABinaryOrARefusedRecord)
