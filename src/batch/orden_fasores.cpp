@@ -16,7 +16,7 @@ namespace {
 bool FasoresDe(const Argumentos& a, const Consola& consola)
 {
     if (!AbreRegistroDe(a.sueltos[0], consola)) return false;
-    AplicaReferenciaDe(a);
+    AplicaReferenciaDe(a, consola);
     if (CicloDe(consola) == 0) return false;
     CalculaDFT(store);
     return !store.FasoresDFT.Vacia();

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <array>
+#include <filesystem>
 #include <ostream>
 
 #include "analysis/fasores.h"
@@ -7,6 +9,7 @@
 #include "analysis/pagina_fasores.h"
 #include "batch/ordenes.h"
 #include "platform/avisos.h"
+#include "platform/texto.h"
 #include "platform/textos.h"
 #include "platform/vista.h"
 #include "record/disparo.h"
@@ -154,19 +157,41 @@ bool Elige(Informe& informe, const Argumentos& a, const Consola& consola)
     return false;
 }
 
+/// The report never replaces one of its sources, be it by a link, nor a file that is no PDF: a forgotten last
+/// word would cost the template or the samples.
+bool EsSalida(const Argumentos& a)
+{
+    const std::string& pdf = a.sueltos.back();
+    if (!IgualSinCaja(Derecha(pdf, 4), ".pdf")) return false;
+    return std::none_of(a.sueltos.begin(), a.sueltos.end() - 1, [&pdf](const std::string& fuente) {
+        std::error_code fallo;
+        const std::string tronco(SinFinal(fuente, 3));
+        return std::ranges::any_of(std::array{fuente, tronco + "cfg", tronco + "hdr"}, [&](const auto& ruta) {
+            return std::filesystem::equivalent(ruta, pdf, fallo);
+        });
+    });
+}
+
 }  // namespace
 
 Salida OrdenReport(const Argumentos& a, const Consola& consola)
 {
+    if (!EsSalida(a)) {
+        Avisa(consola.espanol ? "El último nombre debe ser el de un fichero .pdf nuevo o de otro informe."
+                              : "The last name must be that of a new .pdf file or of another report.");
+        return Salida::MalUso;
+    }
     const bool plantilla = a.sueltos.size() == 3;
     if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
     if (plantilla && (!LeePlantillaDe(a.sueltos[1], consola) || !CabePlantilla(consola)))
         return Salida::Fallida;
-    AplicaReferenciaDe(a);
+    Argumentos conLado = a;
+    if (conLado.referencia.empty()) conLado.referencia = "primary";  // as the choosers of the views preselect
+    AplicaReferenciaDe(conLado, consola);
     const auto impresora = creaPdf(a.sueltos.back(), a.monocromo ? ModoColor::Monocromo : ModoColor::Color);
     impresora->PonSentido(Orientacion::Horizontal);
     Informe informe{*impresora, {}};
-    if (!Elige(informe, a, consola)) return Salida::MalUso;
+    if (!Elige(informe, a, consola)) return Salida::Fallida;
     if (!ImprimeOndas(informe) || (plantilla && !ImprimeGrupos(informe, consola))) {
         impresora->Anula();
         return Salida::Fallida;

@@ -37,7 +37,7 @@ std::string LineaMuestra(const RecordStore& s, int i)
 Salida OrdenSamples(const Argumentos& a, const Consola& consola)
 {
     if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
-    AplicaReferenciaDe(a);
+    AplicaReferenciaDe(a, consola);
     consola.resultados << Cabecera(store.Muestras.Columnas(), store.MuestrasDig.Columnas());
     for (int i = 1; i <= store.Muestras.Filas() && consola.resultados; ++i)
         consola.resultados << LineaMuestra(store, i);

@@ -213,10 +213,16 @@ bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
     return true;
 }
 
-void AplicaReferenciaDe(const Argumentos& a)
+void AplicaReferenciaDe(const Argumentos& a, const Consola& consola)
 {
-    if (!a.referencia.empty() && !store.Muestras.Vacia())
+    if (store.Muestras.Vacia()) return;
+    if (!a.referencia.empty()) {
         AplicaReferencia(store, a.referencia == "primary" ? Lado::Primario : Lado::Secundario);
+    } else if (store.RevisionCfg == "1997" &&
+               (store.Relacion(1).Primario != 1.0F || store.Relacion(1).Secundario != 1.0F)) {
+        Avisa(consola.espanol ? "Un registro 1997 con relaciones es cero mientras no se elija --reference."
+                              : "A 1997 record with ratios is zero until a --reference is chosen.");
+    }
 }
 
 Salida Ejecuta(const std::vector<std::string>& argumentos, const std::string& rutaPrograma, Consola consola)

@@ -50,8 +50,8 @@ bool CabePlantilla(const Consola& consola);
 /// The samples a cycle, with the message where there is less than one. 0 then.
 std::int16_t CicloDe(const Consola& consola);
 
-/// Applies the side that was asked for, if any, to a record that has samples.
-void AplicaReferenciaDe(const Argumentos& a);
+/// Applies the side that was asked for to a record that has samples; tells where it needs one.
+void AplicaReferenciaDe(const Argumentos& a, const Consola& consola);
 
 /// JSON of the record and, where one is named, of its template.
 Salida OrdenInfo(const Argumentos& a, const Consola& consola);

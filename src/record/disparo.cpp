@@ -38,6 +38,7 @@ std::optional<double> Microsegundos(std::string_view texto, bool mesPrimero)
         if (!campo) return std::nullopt;
         campos[i] = *campo;
     }
+    if (campos[0] > 31.0 || campos[1] > 31.0 || campos[2] > 9999.0) return std::nullopt;
     using namespace std::chrono;
     const int siglo = campos[2] >= 100.0 ? 0 : (campos[2] >= 70.0 ? 1900 : 2000);  // of a year of two digits
     const year_month_day fecha{year(siglo + static_cast<int>(campos[2])),
@@ -61,7 +62,8 @@ std::optional<int> MuestraDeDisparo(const RecordStore& s)
     const bool marcas = s.Tiempos.Cuantos() >= ultima && s.Tiempos(ultima) > s.Tiempos(1);
     const int porSegundo = MuestrasPorSegundo(s);
     if (!marcas && porSegundo <= 0) return std::nullopt;
-    const double factor = s.TimeMult > 0 ? s.TimeMult : 1.0;
+    // An ASCII reading has the multiplier in its stamps.
+    const double factor = s.TimeMult > 0 && s.FormatoDat != "ASCII" ? s.TimeMult : 1.0;
     int mejor = 1;
     double menor = std::abs(espera);
     for (int i = 2; i <= ultima; ++i) {

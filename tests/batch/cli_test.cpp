@@ -112,7 +112,9 @@ TEST_F(Cli, SamplesAreOfTheWrongSideOrWithAComma)
     const std::pair<const char*, std::string> casos[] = {
         {"samples d/rec.dat --reference secondary", primario},
         {"samples d/uno.dat", primario},
-        {"samples d/r97.dat", "1,0,0,0,0\n2,1000,0,0,1\n"},
+        {"--lang en samples d/r97.dat",
+         "1,0,0,0,0\n2,1000,0,0,1\n"
+         "0veldix-cli: A 1997 record with ratios is zero until a --reference is chosen.\n"},
         {"samples d/r97.dat --reference primary", primario},
         {"samples --reference secondary d/r97.dat", "1,0,0.25,10,0\n2,1000,-0.075,2,1\n"},
     };
@@ -131,7 +133,6 @@ TEST_F(Cli, PhasorsOrSequencesAreOfAnotherRowSideOrGroup)
     } casos[] = {
         {"phasors ej/falta_1991.dat", "row,A1_x,A1_y,A1_mag,A1_ang,A2_x", 19, 2633.0},
         {"phasors ej/falta_1991.dat", "row,A1_x,", 3, 50.9},
-        {"phasors ej/falta_1997.dat", "row,A1_x,", 19, 0.0},
         {"phasors ej/falta_1997b.dat --reference primary", "row,A1_x,", 19, 2633.0},
         {"phasors ej/falta_1997.dat --reference secondary", "row,A1_x,", 19, 2633.0 / 800.0},
         {"sequences ej/falta_1991.dat ej/falta.cnf --group 2", "row,pos_x,pos_y,pos_mag,pos_ang,neg_x", 7,
@@ -221,7 +222,7 @@ protected:
 
 TEST_F(Informe, PagesAreMissingOrInAnotherOrder)
 {
-    EXPECT_EQ(Corre("--lang en report ej/falta_1997.dat ej/falta.cnf d/o.pdf --reference primary"), "");
+    EXPECT_EQ(Corre("--lang en report ej/falta_1997.dat ej/falta.cnf d/o.pdf"), "");
     EXPECT_EQ(Titulos(),
               "waves waves waves waves waves waves waves waves waves "
               "PHASES SEQUENCES PHASES SEQUENCES 13 ended");
@@ -231,6 +232,7 @@ TEST_F(Informe, PagesAreMissingOrInAnotherOrder)
                                    [&](const auto& o) { return o.texto.find(texto) != std::string::npos; });
     };
     EXPECT_TRUE(de("Sample no. 337"));  // nearest to the trigger
+    EXPECT_FALSE(de(" max 0")) << "no side chosen";
     EXPECT_EQ(Corre("--lang=en report ej/falta_1991.dat d/o.pdf --channels 2,5-6 --sample=385 --monochrome"),
               "");
     EXPECT_EQ(Titulos(), "waves waves waves waves 4 ended");
@@ -244,10 +246,13 @@ TEST_F(Informe, BadWordsOrRecordsWriteSomething)
                               "report d/rec.dat d/o.pdf --channels 1,", "report d/rec.dat d/o.pdf --sample 0",
                               "samples d/rec.dat --sample 1", "info d/rec.dat --monochrome"})
         EXPECT_EQ(Corre(linea).substr(0, 2), "2U") << linea;
+    std::filesystem::create_symlink(c.Ruta("d/rec.cfg"), c.Ruta("d/liga.pdf"));
+    for (const char* linea : {"report d/rec.dat d/t.cnf", "report d/rec.dat d/liga.pdf"})
+        EXPECT_EQ(Corre(linea).substr(0, 2), "2v") << linea;
     EXPECT_EQ(Corre("--lang en report d/rec.dat d/o.pdf --sample 3"),
-              "2veldix-cli: The record has no such sample.\n");
+              "1veldix-cli: The record has no such sample.\n");
     EXPECT_EQ(Corre("--lang en report d/rec.dat d/o.pdf --channels 3"),
-              "2veldix-cli: The record has no such channel.\n");
+              "1veldix-cli: The record has no such channel.\n");
     EXPECT_EQ(Corre("report d/nada.dat d/o.pdf").front(), '1');
     c.Escribe("d/grande.cnf", ConFinales("ver 1.1|P|ANALOGICOS|3|1%a%b%V$|2%a%b%V$|3%a%b%V$|-----"));
     EXPECT_EQ(Corre("report d/rec.dat d/grande.cnf d/o.pdf").front(), '1');
@@ -273,6 +278,8 @@ TEST(Disparo, IsAnotherSampleOrOneOfADateThatCannotBeRead)
                  {"1997", "02/28/1996,23:59:59", "02/29/1996,00:00:00", 0},
                  {"1997", " 1/2/2003 , 4:05:06.5", "1/2/2003,4:5:6.4", 1},
                  {"1997", "1/2/2003,4:05:06.5x", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "1/2/99999999999,4:5:6", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "99999999999/2/2003,4:5:6", "1/2/2003,4:5:6.6", 0},
                  {"1997", "", "1/2/2003,4:5:6.6", 0}};
     for (const auto& c : casos) {
         s.RevisionCfg = c.revision;
@@ -286,6 +293,8 @@ TEST(Disparo, IsAnotherSampleOrOneOfADateThatCannotBeRead)
     for (int i = 1; i <= 100; ++i)
         s.Tiempos(i) = static_cast<float>(7000 + 250 * i);
     EXPECT_EQ(MuestraDeDisparo(s).value_or(0), 11);
+    s.FormatoDat = "ASCII";  // the multiplier is in the stamps
+    EXPECT_EQ(MuestraDeDisparo(s).value_or(0), 21);
 }
 
 }  // namespace

@@ -38,7 +38,11 @@ std::unique_ptr<Impresora> CreaImpresoraPdf(const std::string& ruta, ModoColor c
         static char nombre[] = "veldix-cli";
         static char* argumentos[] = {nombre, nullptr};
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        // What the toolkit misses of a desktop is nothing to a job without one.
+        const auto antes =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         static QGuiApplication aplicacion(cuenta, argumentos);
+        qInstallMessageHandler(antes);
     }
     return std::make_unique<ImpresoraPdf>(ruta, color);
 }
