@@ -88,7 +88,14 @@ std::string_view Recorta(std::string_view texto)
 std::string Mayusculas(std::string_view texto)
 {
     std::string r(texto);
-    std::transform(r.begin(), r.end(), r.begin(), Mayuscula);
+    char antes = '\0';
+    for (char& c : r) {
+        const char octeto = c;
+        // U+00E0 to U+00FE, where U+00F7 is the division sign
+        const bool latina = antes == '\xC3' && octeto >= '\xA0' && octeto <= '\xBE' && octeto != '\xB7';
+        c = latina ? static_cast<char>(octeto - 0x20) : Mayuscula(octeto);
+        antes = octeto;
+    }
     return r;
 }
 

@@ -9,8 +9,9 @@ namespace veldix {
 /// Without the blanks (U+0020 alone) at either end.
 std::string_view Recorta(std::string_view texto);
 
-/// ASCII letters in upper or lower case; other characters stay.
+/// ASCII and Latin-1 letters in upper case, as many octets as before; other characters stay.
 std::string Mayusculas(std::string_view texto);
+/// ASCII letters in lower case.
 std::string Minusculas(std::string_view texto);
 
 /// Characters of a UTF-8 text; an octet that belongs to no valid character counts as one.

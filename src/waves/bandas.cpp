@@ -52,14 +52,9 @@ Bandas ColocaBandas(RecordStore& s, const std::vector<int>& canales, float alto)
     return b;
 }
 
-float EscalaRegistro(float ancho, double muestras)
-{
-    return Single(Divide(ancho - 150.0, muestras));
-}
-
 float EscalaTramo(float ancho, double s, double e)
 {
-    return Single(Divide(ancho - 100.0, e - s));
+    return Single(Divide(ancho - 2.0 * kMargenBandas, e - s));
 }
 
 }  // namespace veldix

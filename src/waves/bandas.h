@@ -26,9 +26,8 @@ struct Bandas {
 /// own. Raises 9, 13, 6 for a channel without a column, 11 for no channels.
 Bandas ColocaBandas(RecordStore& s, const std::vector<int>& canales, float alto);
 
-/// Twips a sample of the curves of a plot `ancho` wide: of the whole record, and of a zoom from `s` to `e`.
-/// The cursors of a zoom stay on the former rule. Raise 11.
-float EscalaRegistro(float ancho, double muestras);
+/// Twips a sample of the curves of a zoom from `s` to `e` in a plot `ancho` wide. The cursors' scale leaves
+/// more of the width free, so that at `e` they stand short of the curve's end. Raises 11.
 float EscalaTramo(float ancho, double s, double e);
 
 }  // namespace veldix

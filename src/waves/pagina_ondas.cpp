@@ -5,6 +5,7 @@
 
 #include "platform/enteros.h"
 #include "platform/numeros.h"
+#include "platform/texto.h"
 #include "platform/textos.h"
 #include "waves/marcas_pagina.h"
 #include "waves/plot.h"
@@ -17,6 +18,7 @@ constexpr LetraPagina kNormal{8.0, false}, kRotulo{8.0, true}, kPequena{6.5, fal
     kPequenaRotulo{6.5, true};
 constexpr double kMargenTexto = 60.0;  // twips between a text and the line beside it
 constexpr double kLargoMarca = 80.0;
+constexpr std::size_t kMenorNombre = 12, kMayorNombre = 300;  // characters; no page is wider
 
 /// How samples lie on the page. The screen's plot, `alto` twips high, is stretched over the page's.
 struct EscalaPagina {
@@ -53,10 +55,25 @@ public:
         hoja_.textos.push_back({x, y, texto, letra});
         return x + Ancho(texto, letra);
     }
+    /// Width of a caption and of the blank behind it, which it may bring along.
+    double AnchoRotulo(const std::string& rotulo)
+    {
+        return Ancho(rotulo.empty() || rotulo.back() == ' ' ? rotulo : rotulo + " ", kRotulo);
+    }
     /// A caption and its value behind it.
     void PonPar(double x, double y, const std::string& rotulo, const std::string& valor)
     {
-        Pon(Pon(x, y, rotulo, kRotulo), y, valor, kNormal);
+        Pon(x, y, rotulo, kRotulo);
+        Pon(x + AnchoRotulo(rotulo), y, valor, kNormal);
+    }
+    /// A name as far as it fits into a width, its cut marked; never so short that it tells nothing.
+    std::string Cabe(const std::string& nombre, double ancho, LetraPagina letra)
+    {
+        std::string corto = nombre;
+        for (std::size_t n = std::min(NumCaracteres(nombre), kMayorNombre);
+             n > kMenorNombre && Ancho(corto, letra) > ancho; --n)
+            corto = std::string(Izquierda(nombre, n - 1)) + "…";
+        return corto;
     }
     /// Its right end at x, its middle at y.
     void PonIzquierda(double x, double y, const std::string& texto, LetraPagina letra)
@@ -101,24 +118,36 @@ double Fila(const HojaOndas& h, Redactor& r, int fila)
     return h.medidas.marco.arriba + kMargenTexto / 2.0 + fila * r.Alto(kRotulo);
 }
 
+/// A curve's name and value behind a sample's number.
+struct ValorCursor {
+    std::string nombre, valor;
+};
+
 /// Title and date, then whatever the view adds, and the file at the foot.
 void PonCabecera(HojaOndas& h, Redactor& r, const RecordStore& s, const DatosHoja& d)
 {
     const double x = h.medidas.marco.izquierda + r.Ancho("AA", kNormal);
-    r.PonPar(x, Fila(h, r, 0), Textos(74), d.titulo);
+    const double ancho = h.medidas.columna - kMargenTexto - x - r.AnchoRotulo(Textos(74));
+    r.PonPar(x, Fila(h, r, 0), Textos(74), r.Cabe(d.titulo, ancho, kNormal));
     r.Pon(h.medidas.columna, Fila(h, r, 0), d.fecha, kNormal);
     r.PonPar(x, h.medidas.marco.abajo - r.Alto(kRotulo) - kMargenTexto, Textos(265), s.FicheroDat);
 }
 
-/// Both cursors' samples, with a value where the page has a single curve, and the time between them.
+/// Both cursors' samples, with a value where the page has a single curve. A name gives way, never a value.
 void PonCursores(HojaOndas& h, Redactor& r, const DatosHoja& d, const char* rotulo1, const char* rotulo2,
-                 const std::string& valor1, const std::string& valor2)
+                 const ValorCursor& v1 = {}, const ValorCursor& v2 = {})
 {
-    const double x = h.medidas.marco.izquierda + r.Ancho("AA", kNormal), y = Fila(h, r, 1);
-    const std::string blanco = valor1.empty() ? "" : " ";
-    r.PonPar(x, y, rotulo1, Textos(266) + FormaDelimitada(Muestra(d.Cursor1)) + blanco + valor1);
-    r.PonPar(h.medidas.columna, y, rotulo2,
-             Textos(266) + FormaDelimitada(Muestra(d.Cursor2)) + blanco + valor2);
+    const auto pon = [&](double x, double fin, const char* rotulo, float cursor, const ValorCursor& v) {
+        std::string texto = Textos(266) + FormaDelimitada(Muestra(cursor));
+        if (!v.valor.empty()) {
+            const double resto = r.AnchoRotulo(rotulo) + r.Ancho(texto + "  " + v.valor, kNormal);
+            texto += " " + r.Cabe(v.nombre, fin - x - resto, kNormal) + " " + v.valor;
+        }
+        r.PonPar(x, Fila(h, r, 1), rotulo, texto);
+    };
+    const double izquierda = h.medidas.marco.izquierda + r.Ancho("AA", kNormal);
+    pon(izquierda, h.medidas.columna - kMargenTexto, rotulo1, d.Cursor1, v1);
+    pon(h.medidas.columna, h.medidas.marco.derecha - kMargenTexto, rotulo2, d.Cursor2, v2);
 }
 
 void PonMarcasTiempo(HojaOndas& h, Redactor& r, double escala, int porSegundo)
@@ -133,14 +162,21 @@ void PonMarcasTiempo(HojaOndas& h, Redactor& r, double escala, int porSegundo)
     }
 }
 
-/// The zero line with its label, and the ticks that share its scale.
+/// The zero line, with its label where it is in the plot.
+void PonCero(HojaOndas& h, Redactor& r, double y, const std::string& unidades, LetraPagina letra)
+{
+    const Marco& p = h.medidas.plot;
+    h.dentro.push_back({p.izquierda, y, p.derecha, y});
+    if (y >= p.arriba && y <= p.abajo)
+        r.PonIzquierda(p.izquierda - kLargoMarca, y, "0 " + unidades + "  ", letra);
+}
+
+/// The zero line and the ticks that share its scale.
 void PonMarcasValor(HojaOndas& h, Redactor& r, const EscalaPagina& e, double valorPaso,
                     const std::string& unidades)
 {
     const Marco& p = h.medidas.plot;
-    h.dentro.push_back({p.izquierda, e.origen, p.derecha, e.origen});
-    if (e.origen >= p.arriba && e.origen <= p.abajo)
-        r.PonIzquierda(p.izquierda - kLargoMarca, e.origen, "0 " + unidades + "  ", kNormal);
+    PonCero(h, r, e.origen, unidades, kNormal);
     for (const Marca& m : MarcasValor(h.medidas, e.origen, valorPaso, unidades)) {
         h.rayas.push_back({p.izquierda - kLargoMarca, m.lugar, p.izquierda, m.lugar});
         r.PonIzquierda(p.izquierda - kLargoMarca, m.lugar, m.rotulo, kNormal);
@@ -207,11 +243,13 @@ void PonTextosBanda(HojaOndas& h, Redactor& r, const RecordStore& s, int canal, 
 {
     const std::string& unidades = s.Canales(canal).Unidades;
     const Rango rango = RangoDe(s.Muestras, ColumnaDeCanal(s, canal));
-    const std::string lineas[] = {EtiquetaCanal(s, canal), " max " + TextoValor(rango.mayor, unidades),
-                                  " min " + TextoValor(rango.menor, unidades),
-                                  "Cursor 1: " + ValorEn(s, d.Cursor1, canal, canal),
-                                  "Cursor 2: " + ValorEn(s, d.Cursor2, canal, canal)};
-    const double alto = r.Alto(kPequena), x = h.medidas.marco.izquierda + kMargenTexto;
+    const double x = h.medidas.marco.izquierda + kMargenTexto,
+                 ancho = h.medidas.plot.izquierda - kMargenTexto - x;
+    const std::string lineas[] = {
+        r.Cabe(EtiquetaCanal(s, canal), ancho, kPequenaRotulo), " max " + TextoValor(rango.mayor, unidades),
+        " min " + TextoValor(rango.menor, unidades), "Cursor 1: " + ValorEn(s, d.Cursor1, canal, canal),
+        "Cursor 2: " + ValorEn(s, d.Cursor2, canal, canal)};
+    const double alto = r.Alto(kPequena);
     double y = cero - 2.5 * alto;
     for (const std::string& linea : lineas) {
         r.Pon(x, y, linea, &linea == lineas ? kPequenaRotulo : kPequena);
@@ -236,12 +274,13 @@ void PonLeyenda(HojaOndas& h, Redactor& r, const RecordStore& s, const std::vect
         const double x = izquierda + static_cast<double>(k / 3) * columna;
         const double y = arriba + static_cast<double>(k % 3) * alto;
         h.rayas.push_back({x, y + alto / 2.0, x + trazo, y + alto / 2.0, h.curvas[k].color});
-        const double fin = r.Pon(x + trazo + lateral, y, EtiquetaCanal(s, r_), kPequenaRotulo);
-        r.Pon(fin, y,
-              " max " + TextoValor(rango.mayor, unidades) + " min " + TextoValor(rango.menor, unidades) +
-                  "  Cursor 1: " + ValorEn(s, d.Cursor1, c, r_) +
-                  "  Cursor 2: " + ValorEn(s, d.Cursor2, c, r_),
-              kPequena);
+        const std::string valores =
+            " max " + TextoValor(rango.mayor, unidades) + " min " + TextoValor(rango.menor, unidades) +
+            "  Cursor 1: " + ValorEn(s, d.Cursor1, c, r_) + "  Cursor 2: " + ValorEn(s, d.Cursor2, c, r_);
+        const double ancho =
+            columna - trazo - lateral - kMargenTexto - r.Ancho("AA", kNormal) - r.Ancho(valores, kPequena);
+        const std::string nombre = r.Cabe(EtiquetaCanal(s, r_), ancho, kPequenaRotulo);
+        r.Pon(r.Pon(x + trazo + lateral, y, nombre, kPequenaRotulo), y, valores, kPequena);
     }
 }
 
@@ -276,9 +315,10 @@ std::optional<HojaOndas> HojaDeOnda(const RecordStore& s, Impresora& impresora, 
     const int columna = ColumnaDeCanal(s, canal);
     Redactor r(h, impresora);
     PonCabecera(h, r, s, datos);
-    const std::string nombre = EtiquetaCanal(s, canal) + " ";
-    PonCursores(h, r, datos, " Cursor 1: ", "Cursor 2 : ", nombre + ValorEn(s, datos.Cursor1, columna, canal),
-                nombre + ValorEn(s, datos.Cursor2, columna, canal));
+    const std::string nombre = EtiquetaCanal(s, canal);
+    PonCursores(h, r, datos,
+                " Cursor 1: ", "Cursor 2 : ", {nombre, ValorEn(s, datos.Cursor1, columna, canal)},
+                {nombre, ValorEn(s, datos.Cursor2, columna, canal)});
     const double x = h.medidas.marco.izquierda + r.Ancho("AA", kNormal);
     r.PonPar(x, Fila(h, r, 2), Textos(264), datos.textoDif);
     r.PonPar(h.medidas.columna, Fila(h, r, 2), Textos(267), datos.textoMs);
@@ -299,7 +339,7 @@ std::optional<HojaOndas> HojaDeComposicion(const RecordStore& s, Impresora& impr
     if (!e || canales.empty()) return std::nullopt;
     Redactor r(h, impresora);
     PonCabecera(h, r, s, datos);
-    PonCursores(h, r, datos, "Cursor 1: ", "Cursor 2: ", "", "");
+    PonCursores(h, r, datos, "Cursor 1: ", "Cursor 2: ");
     r.PonPar(h.medidas.columna, Fila(h, r, 2), "Tiempo entre cursores : ", datos.textoMs);
     PonMarcasValor(h, r, *e, ValorDePaso(nivel, escalaY), s.Canales(canales[0]).Unidades);
     PonMarcasTiempo(h, r, e->x, MuestrasPorSegundo(s));
@@ -322,7 +362,7 @@ std::optional<HojaOndas> HojaDeTodo(const RecordStore& s, Impresora& impresora, 
                    plot.Ancho() / (static_cast<double>(fila.e) - fila.s)};
     Redactor r(h, impresora);
     PonCabecera(h, r, s, datos);
-    PonCursores(h, r, datos, "Cursor 1: ", "Cursor 2: ", "", "");
+    PonCursores(h, r, datos, "Cursor 1: ", "Cursor 2: ");
     r.PonPar(h.medidas.columna, Fila(h, r, 2), "Tiempo entre cursores : ", datos.textoMs);
     PonMarcasTiempo(h, r, e.x, MuestrasPorSegundo(s));
     PonLineasCursor(h, r, e, datos);
@@ -330,7 +370,7 @@ std::optional<HojaOndas> HojaDeTodo(const RecordStore& s, Impresora& impresora, 
         const int canal = bandas.canales[k], n = static_cast<int>(k) + 1;
         e.origen = plot.arriba + double{bandas.Cero(n)} * ry;
         e.y = double{bandas.escalas[k]} * ry;
-        h.dentro.push_back({plot.izquierda, e.origen, plot.derecha, e.origen});
+        PonCero(h, r, e.origen, s.Canales(canal).Unidades, kPequena);
         PonTextosBanda(h, r, s, canal, e.origen, datos);
         PonCurva(h, impresora, s, ColumnaDeCanal(s, canal), e.e - 1, e, n);
     }

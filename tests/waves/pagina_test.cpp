@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/numeros.h"
 #include "support/grabadora.h"
 #include "support/soporte.h"
@@ -122,6 +124,20 @@ TEST(PaginaOndas, HeadingsNameTheChannelTheCursorsAndTheFile)
         EXPECT_LE(o.ys[0] + 240.0, h->medidas.marco.abajo) << o.texto;
     }
     EXPECT_EQ(imp.Letra.puntos, LetraPagina{}.puntos);  // as it was before
+
+    s.Canales(2).Nombre = std::string(400, 'n');
+    Grabadora larga;
+    ImprimeHoja(larga,
+                *HojaDeOnda(s, larga, 2, kNiveles[0], 24.0F, {s.Canales(2).Nombre, 20, 21, "", "", ""}));
+    int cortados = 0;
+    for (const auto& o : larga.De(Tipo::Texto)) {
+        const double fin = o.xs[0] < 8000.0 ? h->medidas.columna : h->medidas.marco.derecha;
+        EXPECT_LE(o.xs[0] + 120.0 * static_cast<double>(o.texto.size()), fin) << o.texto;
+        cortados += o.texto.find("…") != std::string::npos;
+        const bool valor = o.texto.ends_with("… 10,000 A") || o.texto.ends_with("… -40,000 A");
+        EXPECT_EQ(valor, o.texto.find(" n") != std::string::npos) << o.texto;
+    }
+    EXPECT_EQ(cortados, 3);  // the title and both cursors' names, never a value
     s = Registro(1, 1);
     EXPECT_FALSE(HojaDeOnda(s, imp, 1, {0, 5000, 200, 9800, 1, 0, 5000, 10000, 9600, 2500}, 24.0F, {}));
 }
@@ -150,6 +166,7 @@ TEST(PaginaOndas, BandsShareTheTimeAxisAndLeaveTheLastSampleOut)
         EXPECT_NEAR(h->curvas[7].ys[0], cero - 10.0 * bandas.escalas[7] * ry, 0.01);
         ImprimeHoja(imp, *h);
         EXPECT_EQ(imp.Primero(" min -").texto, " min -40,000 A");  // of column 1, which is row 8
+        EXPECT_EQ(std::ranges::count(imp.ops, "0 A  ", &prueba::OperacionPagina::texto), 8);
         EXPECT_EQ(imp.De(Tipo::Recorte).at(0).xs, (std::vector{3000.0, 18400.0}));
     }
 }

@@ -40,14 +40,15 @@ void EtiquetasCorridas::Pon(int k, const std::string& texto)
     Etiqueta(k)->setText(Q(texto));
 }
 
-void EtiquetasCorridas::Recoge(int hasta)
+void EtiquetasCorridas::Recoge(int hasta, bool soloCrece)
 {
-    int largo = barra_->maximum();
+    int largo = soloCrece ? barra_->maximum() : 0;
     for (int k = 1; k <= hasta; ++k) {
         nombres_[Sitio(k)] = U(Etiqueta(k)->text());
         Etiqueta(k)->setToolTip(Etiqueta(k)->text());
         largo = std::max(largo, static_cast<int>(NumCaracteres(Nombre(k))));
     }
+    const QSignalBlocker calla(barra_);  // the labels show their texts whole
     barra_->setMaximum(largo);
 }
 
@@ -68,9 +69,11 @@ void EtiquetasCorridas::Restaura(int k)
 bool EtiquetasCorridas::eventFilter(QObject* objeto, QEvent* evento)
 {
     if (evento->type() != QEvent::MouseButtonRelease) return false;
-    if (static_cast<QMouseEvent*>(evento)->button() != Qt::LeftButton) return false;
+    const auto* raton = static_cast<QMouseEvent*>(evento);
     const auto sitio = std::find(etiquetas_.begin(), etiquetas_.end(), objeto);
-    if (sitio != etiquetas_.end() && (*sitio)->isEnabled()) Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
+    if (raton->button() != Qt::LeftButton || sitio == etiquetas_.end()) return false;
+    if ((*sitio)->isEnabled() && (*sitio)->rect().contains(raton->position().toPoint()))
+        Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
     return false;
 }
 

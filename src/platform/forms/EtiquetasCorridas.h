@@ -17,9 +17,9 @@ public:
 
     /// Shows a text from its first character on. Raises 9.
     void Pon(int k, const std::string& texto);
-    /// Keeps the texts that labels 1 to `hasta` now show as their full ones; the bar's range grows to the
-    /// longest, in characters. Raises 9.
-    void Recoge(int hasta);
+    /// Keeps the texts that labels 1 to `hasta` now show as their full ones. The bar's range becomes the
+    /// longest, in characters, or where it only grows, the longest so far. Raises 9.
+    void Recoge(int hasta, bool soloCrece);
 
     /// The full text that is kept of a label. Raises 9.
     const std::string& Nombre(int k) const;

@@ -81,6 +81,8 @@ void frmTodoanalog::ColocaControles()
         {cmdadel, &l->cmdadel},   {cmdatras, &l->cmdatras}, {pctimpresora, &l->pctimpresora}};
     for (const auto& [control, lugar] : lugares)
         Pon(control, *lugar);
+    for (QLabel* etiqueta : {lblam, lblci, lblms})
+        etiqueta->setFont(font());
     PonBotonZoom(l->cmdzoom);
     PonReferencia(l->lbl_PS);
 }
@@ -187,7 +189,7 @@ void frmTodoanalog::PonTextos(int cursor)
         lblet->Pon(par + 1, nombre + TextoValor(store.Muestras(m2, r), unidades));
     }
     PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
-    lblet->Recoge(cursor == 1 ? kEtiquetas - 1 : kEtiquetas);
+    lblet->Recoge(cursor == 1 ? kEtiquetas - 1 : kEtiquetas, true);
 }
 
 std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)

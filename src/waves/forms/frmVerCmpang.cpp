@@ -36,7 +36,8 @@ void PonGris(QPushButton* boton, const QString& texto)
     boton->setIcon(QIcon());
     boton->setText(texto);
     const std::string ruta = RutaIconos(store.RutaPrograma, "gris.bmp");
-    if (ExisteFichero(ruta)) boton->setStyleSheet(QString(kCara).arg(Q(ruta)));
+    if (!ExisteFichero(ruta)) return;
+    boton->setStyleSheet(QString(kCara).arg(Q(ruta).replace('\\', "\\\\").replace('"', "\\\"")));
 }
 
 }  // namespace
@@ -156,6 +157,7 @@ void frmVerCmpang::ColocaControles()
                                                          {lblms, &l->lblms}};
     for (const auto& [control, lugar] : lugares)
         Pon(control, *lugar);
+    lblms->setFont(font());
     ColocaColumna(l->amarilla, marcamar, lblam, HScroll_Amar);
     ColocaColumna(l->cian, marcaci, lblci, HScroll_Cian);
     ColocaBotones(*l);
@@ -212,7 +214,7 @@ void frmVerCmpang::PonEtiquetas(EtiquetasCorridas* textos, int muestra)
         textos->Pon(n, EtiquetaCanal(store, r) + ": " +
                            TextoValor(store.Muestras(muestra, columnas_[k]), store.Canales(r).Unidades));
     }
-    textos->Recoge(kCanalesComp);
+    textos->Recoge(kCanalesComp, false);
 }
 
 void frmVerCmpang::PonTextos(int cursor)

@@ -42,16 +42,21 @@ TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
     QObject::connect(&e, &EtiquetasCorridas::Click, &e, &EtiquetasCorridas::Restaura);
     e.Pon(1, "Tensión 3€");
     e.Pon(2, "b");
-    e.Recoge(2);
+    e.Recoge(2, true);
     EXPECT_EQ(barra.maximum(), 10);
     barra.setValue(6);
     EXPECT_EQ(una->text(), QString::fromUtf8("n 3€"));
     EXPECT_EQ(otra->text(), "");
+    QTest::mousePress(una, Qt::LeftButton);
+    QTest::mouseRelease(una, Qt::LeftButton, {}, QPoint(-5, 1));
+    EXPECT_EQ(una->text(), QString::fromUtf8("n 3€"));  // let go elsewhere
     QTest::mouseClick(una, Qt::LeftButton);
     EXPECT_EQ(una->text(), QString::fromUtf8("Tensión 3€"));
     e.Pon(1, "corto");
-    e.Recoge(1);
+    e.Recoge(1, true);
     EXPECT_EQ(barra.maximum(), 10);
+    e.Recoge(1, false);
+    EXPECT_TRUE(barra.maximum() == 5 && una->text() == "corto");
     barra.setValue(0);
     EXPECT_TRUE(una->text() == "corto" && otra->text() == "b");
     EXPECT_EQ(prueba::NumeroDeError([&] { e.Pon(3, ""); }), error::kSubindice);
