@@ -13,6 +13,7 @@
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
+#include "record/escala.h"
 #include "shell/ajustes.h"
 #include "templates/plantilla.h"
 
@@ -218,8 +219,7 @@ void AplicaReferenciaDe(const Argumentos& a, const Consola& consola)
     if (store.Muestras.Vacia()) return;
     if (!a.referencia.empty()) {
         AplicaReferencia(store, a.referencia == "primary" ? Lado::Primario : Lado::Secundario);
-    } else if (store.RevisionCfg == "1997" &&
-               (store.Relacion(1).Primario != 1.0F || store.Relacion(1).Secundario != 1.0F)) {
+    } else if (!MuestrasDirectas(store)) {
         Avisa(consola.espanol ? "Un registro 1997 con relaciones es cero mientras no se elija --reference."
                               : "A 1997 record with ratios is zero until a --reference is chosen.");
     }

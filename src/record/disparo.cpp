@@ -19,7 +19,7 @@ std::optional<double> Toma(std::string_view& texto, char separador)
     double valor = 0.0;
     const auto [fin, fallo] =
         std::from_chars(texto.data(), texto.data() + texto.size(), valor, std::chars_format::fixed);
-    if (fallo != std::errc() || valor < 0.0) return std::nullopt;
+    if (fallo != std::errc() || !(valor >= 0.0)) return std::nullopt;  // neither nan
     texto.remove_prefix(static_cast<std::size_t>(fin - texto.data()));
     texto = Recorta(texto);
     if (separador == '\0') return texto.empty() ? std::optional(valor) : std::nullopt;

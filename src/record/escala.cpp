@@ -37,6 +37,13 @@ double Mayor(const std::vector<float>& v)
 
 }  // namespace
 
+bool MuestrasDirectas(const RecordStore& s)
+{
+    if (s.RevisionCfg != "1997") return true;
+    const FilaRelacion& primera = s.Relacion(1);
+    return primera.Primario == 1.0F && primera.Secundario == 1.0F;
+}
+
 EscalaCanales::EscalaCanales(const RecordStore& s, double mayor)
     : n_(s.FactorA.Cuantos()), es1997_(s.RevisionCfg == "1997")
 {
@@ -47,7 +54,7 @@ EscalaCanales::EscalaCanales(const RecordStore& s, double mayor)
         tope = std::max(tope, std::fabs(a_[static_cast<std::size_t>(c)]) * mayor +
                                   std::fabs(b_[static_cast<std::size_t>(c)]));
     if (es1997_ && n_ > 0) {
-        directa_ = s.Relacion(1).Primario == 1.0F && s.Relacion(1).Secundario == 1.0F;
+        directa_ = MuestrasDirectas(s);
         CalculaLados(s);
         tope *= std::max({Mayor(primera_.prim), Mayor(primera_.sec), Mayor(resto_.prim), Mayor(resto_.sec)});
     }

@@ -6,6 +6,10 @@
 
 namespace veldix {
 
+/// Whether opening the record fills its samples: always for 1991, for 1997 where channel 1 has the ratio 1/1.
+/// Any other holds zeros until a side is chosen. Raises 9 for a 1997 record without analog channels.
+bool MuestrasDirectas(const RecordStore& s);
+
 /// How raw values become samples, channel by channel: v = a x + b in double, rounded once to float32, and
 /// for 1997 its primary and secondary value, v or v times a ratio.
 class EscalaCanales {
