@@ -13,6 +13,6 @@ instala_paquetes() {
   DEBIAN_FRONTEND=noninteractive "${como[@]}" apt-get install -y -qq --no-install-recommends "${falta[@]}"
 }
 
-PAQUETES_CONSTRUIR=(g++ cmake ninja-build ccache qt6-base-dev)
+PAQUETES_CONSTRUIR=(g++ cmake ninja-build ccache qt6-base-dev mdbtools-dev pkgconf)
 PAQUETES_EJECUTAR=(libqt6widgets6 qt6-qpa-plugins libxcb-cursor0 fonts-dejavu-core qt6-translations-l10n)
 PAQUETES_PROBAR=(libgtest-dev libbenchmark-dev locales)

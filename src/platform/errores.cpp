@@ -31,7 +31,11 @@ constexpr Descripcion kDescripciones[] = {
     {71, "Disk not ready"},
     {75, "Path/File access error"},
     {76, "Path not found"},
+    {3021, "No current record"},
+    {3024, "Database file not found"},
     {3044, "Not a valid path"},
+    {3265, "Item not found in this collection"},
+    {3343, "Unrecognized database format"},
 };
 
 }  // namespace

@@ -26,7 +26,11 @@ inline constexpr int kPermiso = 70;
 inline constexpr int kDiscoNoListo = 71;
 inline constexpr int kAccesoRuta = 75;
 inline constexpr int kRutaNoEncontrada = 76;
+inline constexpr int kSinRegistro = 3021;
+inline constexpr int kSinBaseDatos = 3024;
 inline constexpr int kRutaNoValida = 3044;
+inline constexpr int kSinElemento = 3265;
+inline constexpr int kFormatoBaseDatos = 3343;
 }  // namespace error
 
 /// The description of an error number, "Application-defined error" for one that is not in the table.

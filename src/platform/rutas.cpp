@@ -13,6 +13,13 @@ std::string RutaIconos(const std::string& rutaPrograma, const std::string& fiche
     return BuscaSinCaja(UneRuta(carpeta, fichero));
 }
 
+std::string RutaModelos(const std::string& rutaPrograma, const std::string& fichero)
+{
+    constexpr std::size_t kDelPrograma = 10;  // "VELDIX/EXE"
+    const std::string carpeta = BuscaSinCaja(std::string(SinFinal(rutaPrograma, kDelPrograma)) + "Models");
+    return BuscaSinCaja(UneRuta(carpeta, fichero));
+}
+
 std::string RutaIni(const std::string& rutaPrograma)
 {
     return std::string(SinFinal(rutaPrograma, 3)) + "ini";

@@ -106,6 +106,13 @@ std::string Minusculas(std::string_view texto)
     return r;
 }
 
+std::string UnaLinea(std::string_view texto)
+{
+    std::string r(texto);
+    std::erase_if(r, [](char c) { return c == '\r' || c == '\n' || c == '\0'; });
+    return r;
+}
+
 std::size_t NumCaracteres(std::string_view texto)
 {
     std::size_t n = 0;
