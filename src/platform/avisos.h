@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/errores.h"
+#include "platform/textos.h"
 
 namespace veldix {
 
@@ -35,9 +37,25 @@ void AvisaError(const ErrorEjecucion& e);
 /// each.
 void AvisaSeparadores(const std::string& texto);
 
+/// Runs a conversion whose type mismatch has a message of its own, a line of the language.
+template <class Cuerpo>
+void AvisaTipos(int texto, Icono icono, Cuerpo&& cuerpo);
+
 /// Sets the pointers of all windows and forms back to the default (a plot keeps that of an armed zoom); the
 /// windows fill it at start. Readers call it before a message.
 void PonPunteroNormal(std::function<void()> pon);
 void PunteroNormal();
+
+template <class Cuerpo>
+void AvisaTipos(int texto, Icono icono, Cuerpo&& cuerpo)
+{
+    try {
+        std::forward<Cuerpo>(cuerpo)();
+    } catch (const ErrorEjecucion& e) {
+        if (e.numero != error::kTipos) throw;
+        PunteroNormal();
+        Avisa(Textos(texto), icono);
+    }
+}
 
 }  // namespace veldix

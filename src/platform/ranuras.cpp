@@ -1,9 +1,20 @@
 #include "platform/ranuras.h"
 
+#include <algorithm>
+
 #include "platform/errores.h"
 #include "platform/numeros.h"
 
 namespace veldix {
+
+namespace {
+
+bool EsHueco(const Ranuras::Ranura& r)
+{
+    return r.texto.empty() && r.numero.empty();
+}
+
+}  // namespace
 
 const Ranuras::Ranura& Ranuras::operator()(int k) const
 {
@@ -37,8 +48,25 @@ Ranuras::Puesta Ranuras::Pon(const std::string& texto, int numero)
     if (activa_ > Cuantas()) return Puesta::Llena;
     if (Esta(texto, numero)) return Puesta::Repetida;
     Llena(activa_, texto, numero);
-    if (activa_ < Cuantas()) ++activa_;
+    activa_ = std::min(activa_ + 1, ultima_);
     return Puesta::Hecha;
+}
+
+void Ranuras::Limpia()
+{
+    std::fill(ranuras_.begin(), ranuras_.end(), Ranura{});
+    activa_ = 1;
+}
+
+void Ranuras::Compacta()
+{
+    std::fill(std::remove_if(ranuras_.begin(), ranuras_.end(), EsHueco), ranuras_.end(), Ranura{});
+}
+
+void Ranuras::MarcaPrimeraVacia()
+{
+    const auto hueco = std::find_if(ranuras_.begin(), ranuras_.end(), EsHueco);
+    activa_ = std::min(static_cast<int>(hueco - ranuras_.begin()) + 1, ultima_);
 }
 
 void Ranuras::Marca(int k)

@@ -149,6 +149,7 @@ struct GrupoPlantilla {
     Tabla1<FilaCanalDig> CanalesDigPlan;
     std::int16_t NumGruposDigPlan = 0;
     Tabla1<FilaGrupoDig> GruposDigPlan;
+    Tabla1<std::string> NombreDigPlan;   ///< digital signals of the relay model read last
     Tabla1<FilaGrupoEdit> GruposEdit;    ///< 1 to NumGruposDigPlan
     Tabla2<std::int16_t> GruposEditNum;  ///< (1..NumGruposDigPlan, 1..21)
 };
@@ -159,6 +160,7 @@ struct GrupoBanderas {
     bool PlantillaNoValida = false;  ///< the template read does not fit the record
     bool PlantillaModifica = false;
     bool PlantillaNueva = false;
+    bool ModeloCargado = false;    ///< `CanalesPlan` came from a relay model
     std::string EstacionAnterior;  ///< station when a template was taken for a modification
     bool VuelveAnalog = false;     ///< the analog page was left backwards
     bool VueltaDigital = false;    ///< the digital page's tables are to be kept when they grow

@@ -5,6 +5,7 @@
 #include "platform/enteros.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
+#include "templates/modelos.h"
 
 namespace veldix {
 
@@ -13,16 +14,9 @@ namespace {
 constexpr int kColumnasEdit = 21;
 constexpr int kPrimerMiembro = 3;  ///< its column in the edit tables
 
-std::string UnaLinea(std::string texto)
+std::string SinBlancos(const std::string& texto)
 {
-    std::erase_if(texto, [](char c) { return c == '\r' || c == '\n'; });
-    return std::string(Recorta(texto));
-}
-
-std::int16_t Miembros(const FilaGrupoEdit& grupo)
-{
-    const auto* numero = std::get_if<std::int16_t>(&grupo.Cuenta);
-    return numero ? *numero : Entero16Local(std::get<std::string>(grupo.Cuenta));
+    return std::string(Recorta(UnaLinea(texto)));
 }
 
 /// Group `i`, whose members stand in `CanalesDigPlan` from row `r` on; `r` moves behind them.
@@ -41,36 +35,72 @@ void CopiaGrupo(RecordStore& s, int i, int& r)
 
 }  // namespace
 
+std::int16_t Miembros(const FilaGrupoEdit& grupo)
+{
+    const auto* numero = std::get_if<std::int16_t>(&grupo.Cuenta);
+    return numero ? *numero : Entero16Local(std::get<std::string>(grupo.Cuenta));
+}
+
 PaginaAnalogica AbreAnalogicos(RecordStore& s)
 {
     PaginaAnalogica pagina;
     if (!s.PlantillaNueva || s.VuelveAnalog) {
         pagina.Identificacion = s.EstacionPlan;
         pagina.Cuenta = s.NumCanalPlan;
-    } else if (s.RegistroAbierto) {
+    } else if (s.RegistroAbierto || s.ModeloCargado) {
         if (s.NumAnalogPlan == 0) s.NumAnalogPlan = s.NumAnalog;
         if (s.EstacionPlan.empty()) s.EstacionPlan = s.NombreEstacion;
         pagina.Identificacion = s.EstacionPlan;
         pagina.Cuenta = s.NumAnalogPlan;
     }
-    if (pagina.Cuenta < 1) return pagina;
-    pagina.Filas = Tabla1<FilaCanal>(pagina.Cuenta);
-    const int filas = std::min<int>(pagina.Cuenta, s.CanalesPlan.Cuantos());
-    std::copy_n(s.CanalesPlan.begin(), filas, pagina.Filas.begin());
     return pagina;
 }
 
-void CierraAnalogicos(RecordStore& s, const PaginaAnalogica& pagina)
+bool SinOrigen(const RecordStore& s)
 {
-    s.EstacionPlan = UnaLinea(pagina.Identificacion);
-    s.NumCanalPlan = pagina.Cuenta;
-    if (pagina.Cuenta == 0) return;
-    s.CanalesPlan = Tabla1<FilaCanal>(pagina.Cuenta);
-    for (int r = 1; r <= pagina.Cuenta; ++r) {
-        const FilaCanal& fila = pagina.Filas(r);
-        s.CanalesPlan(r) = {FormaDelimitada(r), std::string(Recorta(fila.Nombre)),
-                            std::string(Recorta(fila.Circuito)), std::string(Recorta(fila.Unidades))};
+    return !s.RegistroAbierto && !s.PlantillaAplicada && !s.PlantillaModifica && !s.ModeloCargado;
+}
+
+int FilasDeOrigen(const RecordStore& s, std::int16_t cuenta)
+{
+    return cuenta > s.NumAnalogPlan ? std::min(cuenta, s.NumAnalog) : cuenta;
+}
+
+int FilaSinNombre(const Tabla1<FilaCanal>& filas)
+{
+    const auto vacia = [](const FilaCanal& f) {
+        return Recorta(f.Nombre).empty() && Recorta(f.Circuito).empty();
+    };
+    const FilaCanal* primera = std::find_if(filas.begin(), filas.end(), vacia);
+    return primera == filas.end() ? 0 : static_cast<int>(primera - filas.begin()) + 1;
+}
+
+void GuardaCanales(RecordStore& s, const Tabla1<FilaCanal>& filas)
+{
+    Tabla1<FilaCanal> canales(filas.UBound());
+    for (int r = 1; r <= filas.UBound(); ++r)
+        canales(r) = {FormaDelimitada(r), SinBlancos(filas(r).Nombre), SinBlancos(filas(r).Circuito),
+                      SinBlancos(filas(r).Unidades)};
+    s.CanalesPlan = std::move(canales);
+}
+
+std::vector<std::string> CanalesDigitales(RecordStore& s)
+{
+    std::vector<std::string> nombres;
+    const auto toma = [&](const Tabla1<std::string>& tabla) {
+        for (int i = 1; i <= s.NumDigitalPlan; ++i)
+            nombres.push_back(tabla(i));
+    };
+    if (s.RegistroAbierto && (s.PlantillaNueva || s.PlantillaModifica)) {
+        toma(s.NombreDig);
+    } else if (s.ModeloCargado) {
+        s.ModeloCargado = false;
+        s.NumDigitalPlan = LeeModeloDigital(s, s.EstacionPlan);
+        toma(s.NombreDigPlan);
+    } else if (s.RegistroAbierto && Coincide(s.EstacionPlan, s.NombreEstacion)) {
+        toma(s.NombreDig);
     }
+    return nombres;
 }
 
 void AbreDigitales(RecordStore& s)
@@ -91,14 +121,13 @@ void AbreDigitales(RecordStore& s)
 int SumaMiembros(RecordStore& s)
 {
     if (s.NumGruposDigPlan == 0) return 0;
-    int primeraVacia = 0;
     s.NumCanalDigPlan = 0;
     for (int i = 1; i <= s.NumGruposDigPlan; ++i) {
         const std::int16_t miembros = Miembros(s.GruposEdit(i));
-        if (miembros == 0 && primeraVacia == 0) primeraVacia = i;
         s.NumCanalDigPlan = Suma16(s.NumCanalDigPlan, miembros);
+        if (miembros == 0) return i;
     }
-    return primeraVacia;
+    return 0;
 }
 
 }  // namespace veldix

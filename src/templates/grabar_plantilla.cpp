@@ -1,6 +1,7 @@
 #include "platform/codigos.h"
 #include "platform/ficheros.h"
 #include "platform/numeros.h"
+#include "templates/conjunto_plantilla.h"
 #include "templates/plantilla.h"
 
 namespace veldix {
@@ -68,7 +69,7 @@ private:
         Linea(grupo.Nombre);
         const auto* numero = std::get_if<std::int16_t>(&grupo.Cuenta);
         Linea(numero ? FormaImpresa(*numero) : std::get<std::string>(grupo.Cuenta));
-        const std::int16_t cuenta = numero ? *numero : Entero16Local(std::get<std::string>(grupo.Cuenta));
+        const std::int16_t cuenta = Miembros(grupo);
         for (int j = 1; j <= cuenta; ++j)
             Linea(FormaDelimitada(s_.GruposEditNum(i, j + 2)) + "%" + grupo.Miembro(j + 2) + "$");
     }

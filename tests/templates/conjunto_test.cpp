@@ -9,13 +9,13 @@ namespace {
 
 using prueba::ConFinales;
 
-/// A template read, passed through the pages and saved: the first group without members, and the file.
-std::string Pasa(const std::string& lineas, RecordStore s = {})
+/// A template read, its digital page passed through and saved: the first group without members, the file.
+std::string Pasa(const std::string& lineas)
 {
+    RecordStore s;
     const prueba::Carpeta carpeta;
     s.FicheroCnf = carpeta.Escribe("p.cnf", ConFinales("ver 1.1|" + lineas));
     LeerPlantilla(s);
-    CierraAnalogicos(s, AbreAnalogicos(s));
     AbreDigitales(s);
     if (s.NumGruposDigPlan > 0) s.NumGruposDigPlan += 2;
     AbreDigitales(s);
@@ -24,29 +24,29 @@ std::string Pasa(const std::string& lineas, RecordStore s = {})
     return std::to_string(vacio) + prueba::LeeTodo(s.FicheroCnf);
 }
 
-TEST(ConjuntoPlantilla, PagesStartFromTheWrongSourceOrHandOnOtherRows)
+TEST(ConjuntoPlantilla, TheAnalogPageStartsFromTheWrongSource)
 {
-    const std::string fila = "|1%VA%%kV$", filas = fila + "|2%%L1%$", grupo = "|***|G|1|4%a$";
-    // New, record open, channels and identification of the set; the analog section that is saved.
-    const std::tuple<bool, bool, std::int16_t, std::string, std::string> casos[] = {
-        {false, true, 1, " PLAN ", "PLAN|ANALOGICOS| 2 " + filas},
-        {true, false, 1, "PLAN", ""},
-        {true, true, 0, "PLAN", "PLAN|ANALOGICOS| 3 " + filas + "|3%%%$"},
-        {true, true, 1, "", "REC|ANALOGICOS| 1 " + fila}};
-    for (const auto& [nueva, abierto, canales, estacion, queda] : casos) {
+    // New, record open, model loaded, channels and identification of the set; what the page shows.
+    const std::tuple<bool, bool, bool, std::int16_t, std::string, std::string> casos[] = {
+        {false, true, true, 1, " PLAN ", "2 PLAN "},
+        {true, false, false, 1, "PLAN", "0"},
+        {true, true, false, 0, "PLAN", "3PLAN"},
+        {true, true, false, 1, "", "1REC"},
+        {true, false, true, 5, "RELE", "5RELE"}};
+    for (const auto& [nueva, abierto, modelo, canales, estacion, muestra] : casos) {
         RecordStore s;
-        s.PlantillaNueva = nueva, s.RegistroAbierto = abierto, s.NombreEstacion = "REC";
-        s.NumAnalogPlan = canales, s.NumAnalog = 3;
-        EXPECT_EQ(
-            Pasa(estacion + "|ANALOGICOS|2|7% VA %%kV $|8%%L1%$|DIGITALES|7|1" + grupo, s),
-            ConFinales("0ver 1.1|" + queda + "|DIGITALES|" + (nueva ? "7| 0 " : "1| 1 " + grupo) + "|-----"));
+        s.PlantillaNueva = nueva, s.RegistroAbierto = abierto, s.ModeloCargado = modelo;
+        s.NumAnalogPlan = canales, s.NumAnalog = 3, s.NumCanalPlan = 2;
+        s.EstacionPlan = estacion, s.NombreEstacion = "REC";
+        const PaginaAnalogica pagina = AbreAnalogicos(s);
+        EXPECT_EQ(std::to_string(pagina.Cuenta) + pagina.Identificacion, muestra);
     }
 }
 
 TEST(ConjuntoPlantilla, DigitalGroupsComeOutOtherThanTheyWereRead)
 {
     const std::string tres = " 3 |***|G1|002|4%a%b$|5%$|***|G2| 0 |***|G3|1|9%c$|-----";
-    EXPECT_EQ(Pasa("X|DIGITALES|7|" + tres), ConFinales("2ver 1.1|X|DIGITALES|3|" + tres));
+    EXPECT_EQ(Pasa("X|DIGITALES|7|" + tres), ConFinales("2ver 1.1|X|DIGITALES|2|" + tres));
     std::string llenos;
     for (int i = 1; i <= 19; ++i)
         llenos += std::to_string(i) + "%d$|";

@@ -24,35 +24,64 @@ void Pinta(QLabel* punto, bool activa)
 
 }  // namespace
 
-FilasRanura::FilasRanura(int cuantas, QWidget* padre, const QString& juego, int primera)
-    : QWidget(padre), primera_(primera)
+FilasRanura::FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones)
+    : QWidget(padre), primera_(opciones.primera), editable_(opciones.editable)
 {
     auto* rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
-    rejilla->setColumnStretch(1, 1);
+    if (editable_) rejilla->setVerticalSpacing(1);
+    const int nombre = editable_ ? 2 : 1, numero = editable_ ? 1 : 2;
+    rejilla->setColumnStretch(nombre, 1);
     for (int k = primera_; k < primera_ + cuantas; ++k) {
-        Fila f{new QLabel(this), new QLineEdit(this), new QLabel(this)};
-        f.lblpunt->setObjectName(QString("lblpunt%1%2").arg(juego).arg(k));
-        f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
-        f.lbl->setObjectName(QString("lbl%1%2").arg(juego).arg(k));
-        f.lblpunt->setFixedSize(kLadoPunto, kLadoPunto);
-        f.lblpunt->setFrameShape(QFrame::Box);
-        f.lblpunt->setAutoFillBackground(true);
-        f.grp->setReadOnly(true);
-        f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * 24);
-        f.grp->setAccessibleName(QString::number(k));
-        f.lbl->setMinimumWidth(f.lbl->fontMetrics().horizontalAdvance("00000"));
-        f.lbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        for (QWidget* w : {static_cast<QWidget*>(f.lblpunt), static_cast<QWidget*>(f.grp)}) {
-            w->setProperty("ranura", k);
-            w->installEventFilter(this);
-        }
-        connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
+        const Fila f = CreaFila(k, opciones.juego);
         rejilla->addWidget(f.lblpunt, k - primera_, 0);
-        rejilla->addWidget(f.grp, k - primera_, 1);
-        rejilla->addWidget(f.lbl, k - primera_, 2);
+        rejilla->addWidget(f.grp, k - primera_, nombre);
+        rejilla->addWidget(editable_ ? static_cast<QWidget*>(f.numero) : f.lbl, k - primera_, numero);
         filas_.push_back(f);
     }
+}
+
+FilasRanura::Fila FilasRanura::CreaFila(int k, const QString& juego)
+{
+    Fila f{new QLabel(this), nullptr};
+    f.lblpunt->setObjectName(QString("lblpunt%1%2").arg(juego).arg(k));
+    f.lblpunt->setFixedSize(kLadoPunto, kLadoPunto);
+    f.lblpunt->setFrameShape(QFrame::Box);
+    f.lblpunt->setAutoFillBackground(true);
+    CreaNumero(f, k, QString("lbl%1%2").arg(juego).arg(k));
+    f.grp = new QLineEdit(this);
+    f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
+    f.grp->setReadOnly(!editable_);
+    f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * 24);
+    f.grp->setAccessibleName(QString::number(k));
+    connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
+    Vigila(f.lblpunt, k);
+    Vigila(f.grp, k);
+    return f;
+}
+
+void FilasRanura::CreaNumero(Fila& fila, int k, const QString& nombre)
+{
+    if (editable_) {
+        fila.numero = new QLineEdit(this);
+        fila.numero->setObjectName(nombre);
+        fila.numero->setAccessibleName(QString::number(k));
+        fila.numero->setAlignment(Qt::AlignRight);
+        fila.numero->setFixedWidth(fila.numero->fontMetrics().horizontalAdvance("00000000"));
+        connect(fila.numero, &QLineEdit::textChanged, this, [this, k] { Q_EMIT CambiaNumero(k); });
+        Vigila(fila.numero, k);
+        return;
+    }
+    fila.lbl = new QLabel(this);
+    fila.lbl->setObjectName(nombre);
+    fila.lbl->setMinimumWidth(fila.lbl->fontMetrics().horizontalAdvance("00000"));
+    fila.lbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void FilasRanura::Vigila(QWidget* control, int k)
+{
+    control->setProperty("ranura", k);
+    control->installEventFilter(this);
 }
 
 void FilasRanura::Muestra(const Ranuras& ranuras)
@@ -61,7 +90,8 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
     for (const Fila& f : filas_) {
         ++k;
         Pinta(f.lblpunt, k == ranuras.Activa());
-        f.lbl->setText(Q(ranuras(k).numero));
+        if (f.lbl) f.lbl->setText(Q(ranuras(k).numero));
+        if (f.numero) f.numero->setText(Q(ranuras(k).numero));
         f.grp->setText(Q(ranuras(k).texto));
         f.grp->setCursorPosition(0);
     }
@@ -79,17 +109,21 @@ bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)
     const auto* fila = qobject_cast<QWidget*>(objeto);
     if (!fila || !fila->isEnabled()) return QWidget::eventFilter(objeto, evento);
     const int k = objeto->property("ranura").toInt();
-    const bool nombre = qobject_cast<QLineEdit*>(objeto) != nullptr;
+    const bool caja = qobject_cast<QLineEdit*>(objeto) != nullptr;
     const auto izquierdo = [&] { return static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton; };
     if (evento->type() == QEvent::MouseButtonPress && izquierdo()) {
         Q_EMIT Click(k);
-    } else if (evento->type() == QEvent::MouseButtonDblClick && nombre) {
+    } else if (evento->type() == QEvent::MouseButtonDblClick && caja) {
         if (izquierdo()) Q_EMIT DblClick(k);
         return true;
-    } else if (evento->type() == QEvent::KeyPress && nombre) {
-        const int tecla = static_cast<QKeyEvent*>(evento)->key();
-        if (tecla == Qt::Key_Space) Q_EMIT Click(k);
-        if (tecla == Qt::Key_Delete || tecla == Qt::Key_Backspace) Q_EMIT DblClick(k);
+    } else if (evento->type() == QEvent::KeyPress && caja) {
+        const auto* pulsada = static_cast<QKeyEvent*>(evento);
+        const int tecla = pulsada->key();
+        const bool vale = !editable_ || pulsada->modifiers() == Qt::ControlModifier;
+        const bool borra = tecla == Qt::Key_Delete || tecla == Qt::Key_Backspace;
+        if (vale && tecla == Qt::Key_Space) Q_EMIT Click(k);
+        if (vale && borra) Q_EMIT DblClick(k);
+        if (editable_ && vale && (borra || tecla == Qt::Key_Space)) return true;
     }
     return QWidget::eventFilter(objeto, evento);
 }

@@ -11,26 +11,34 @@
 namespace veldix {
 
 /// The rows of a set of slots: a marker `lblpunt`, the channel's name `grp`, its number `lbl`, each with its
-/// slot's number behind its name; of several sets in a form each has its own number before that, or shows
-/// a stretch of one run of slots. It shows
-/// what it is told and reports the mouse; on a name the space bar is a click, the delete keys are a double
-/// click.
+/// slot's number behind its name. It shows what it is told and reports the mouse; on a name the space bar is
+/// a click and the delete keys are a double click, with Ctrl where names are typed.
 class FilasRanura : public QWidget {
     Q_OBJECT
 
 public:
-    /// `primera` is the slot of the first row; slots keep their numbers everywhere.
-    explicit FilasRanura(int cuantas, QWidget* padre = nullptr, const QString& juego = {}, int primera = 1);
+    struct Opciones {
+        QString juego = {};     ///< of several sets in a form, its own number, ahead of the slot's
+        int primera = 1;        ///< slot of the first row; slots keep their numbers everywhere
+        bool editable = false;  ///< names and numbers may be typed; the number then stands before the name
+    };
+    FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones);
 
     /// Shows the slots' texts and the marker, in colour 14 of the palette on the active slot, 15 elsewhere.
+    /// Numbers change before names.
     void Muestra(const Ranuras& ranuras);
     /// Takes the marker's colour off all slots, until the next Muestra.
     void Desmarca();
 
+    /// Name and number of a slot as they stand in their boxes.
+    QString Texto(int k) const { return LaFila(k).grp->text(); }
+    QString Numero(int k) const { return LaFila(k).numero->text(); }
+
 Q_SIGNALS:
-    void Click(int k);     ///< on a marker or a name
-    void DblClick(int k);  ///< on a name
-    void Change(int k);    ///< the text of a name changed
+    void Click(int k);         ///< on a marker, a name or a typed number
+    void DblClick(int k);      ///< on a name or a typed number
+    void Change(int k);        ///< the text of a name changed
+    void CambiaNumero(int k);  ///< the same of a typed number
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -39,10 +47,17 @@ private:
     struct Fila {
         QLabel* lblpunt;
         QLineEdit* grp;
-        QLabel* lbl;
+        QLabel* lbl = nullptr;        ///< a number that is shown
+        QLineEdit* numero = nullptr;  ///< or one that may be typed
     };
+    Fila CreaFila(int k, const QString& juego);
+    void CreaNumero(Fila& fila, int k, const QString& nombre);
+    void Vigila(QWidget* control, int k);
+    const Fila& LaFila(int k) const { return filas_[static_cast<std::size_t>(k - primera_)]; }
+
     std::vector<Fila> filas_;
     int primera_;
+    bool editable_;
 };
 
 }  // namespace veldix

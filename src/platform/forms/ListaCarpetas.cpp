@@ -164,12 +164,42 @@ QSize ListaCarpetas::sizeHint() const
     return {fontMetrics().averageCharWidth() * 34, fontMetrics().height() * 14};
 }
 
-ListaFicheros::ListaFicheros(QWidget* padre) : QListWidget(padre)
+ListaClic::ListaClic(QWidget* padre) : QListWidget(padre)
+{
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (Elegida() >= 0) Q_EMIT Click();
+    });
+}
+
+int ListaClic::Elegida() const
+{
+    const auto elegidos = selectedItems();
+    return elegidos.isEmpty() ? -1 : row(elegidos.constFirst());
+}
+
+/// The view's own arrow would pass over the first line.
+void ListaClic::keyPressEvent(QKeyEvent* evento)
+{
+    const bool flecha = evento->key() == Qt::Key_Down || evento->key() == Qt::Key_Up;
+    if (!flecha || count() == 0 || Elegida() >= 0) {
+        QListWidget::keyPressEvent(evento);
+        return;
+    }
+    evento->accept();
+    setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+}
+
+void ListaClic::mousePressEvent(QMouseEvent* evento)
+{
+    const QListWidgetItem* pulsado = itemAt(evento->position().toPoint());
+    const bool otraVez = evento->button() == Qt::LeftButton && pulsado && pulsado->isSelected();
+    QListWidget::mousePressEvent(evento);
+    if (otraVez) Q_EMIT Click();
+}
+
+ListaFicheros::ListaFicheros(QWidget* padre) : ListaClic(padre)
 {
     setUniformItemSizes(true);
-    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
-        if (!Fichero().empty()) Q_EMIT Click();
-    });
     connect(this, &QListWidget::itemDoubleClicked, this, &ListaFicheros::DblClick);
 }
 
@@ -183,33 +213,17 @@ void ListaFicheros::Pon(const std::string& carpeta, const std::string& patron)
 
 std::string ListaFicheros::Fichero() const
 {
-    const auto elegidos = selectedItems();
-    return elegidos.isEmpty() ? std::string() : U(elegidos.constFirst()->text());
+    return Elegida() < 0 ? std::string() : U(item(Elegida())->text());
 }
 
-/// With nothing selected an arrow takes the first file; the view's own would pass over it.
 void ListaFicheros::keyPressEvent(QKeyEvent* evento)
 {
-    const bool flecha = evento->key() == Qt::Key_Down || evento->key() == Qt::Key_Up;
-    if (flecha && count() > 0 && Fichero().empty()) {
-        evento->accept();
-        setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
-        return;
-    }
-    if (!EsEntrar(*evento) || Fichero().empty()) {
-        QListWidget::keyPressEvent(evento);
+    if (!EsEntrar(*evento) || Elegida() < 0) {
+        ListaClic::keyPressEvent(evento);
         return;
     }
     evento->accept();
     Q_EMIT DblClick();
-}
-
-void ListaFicheros::mousePressEvent(QMouseEvent* evento)
-{
-    const QListWidgetItem* pulsado = itemAt(evento->position().toPoint());
-    const bool otraVez = evento->button() == Qt::LeftButton && pulsado && pulsado->isSelected();
-    QListWidget::mousePressEvent(evento);
-    if (otraVez) Q_EMIT Click();
 }
 
 }  // namespace veldix

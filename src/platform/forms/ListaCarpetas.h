@@ -57,8 +57,25 @@ private:
     std::string ruta_;
 };
 
+/// A list that reports each choice of the user once. With nothing selected an arrow key takes the first line.
+class ListaClic : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit ListaClic(QWidget* padre = nullptr);
+    /// The selected line, from 0, or -1.
+    int Elegida() const;
+
+Q_SIGNALS:
+    void Click();  ///< a line was selected, or the selected one clicked again
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+};
+
 /// The files of a folder that a pattern fits, in any case; several patterns are parted by ";".
-class ListaFicheros : public QListWidget {
+class ListaFicheros : public ListaClic {
     Q_OBJECT
 
 public:
@@ -70,12 +87,10 @@ public:
     std::string Fichero() const;
 
 Q_SIGNALS:
-    void Click();     ///< a file was selected, or the selected one clicked again
     void DblClick();  ///< double click or Enter on a file
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
-    void mousePressEvent(QMouseEvent* evento) override;
 };
 
 }  // namespace veldix

@@ -1,6 +1,9 @@
 #include "templates/forms/cadena.h"
 
-#include "templates/conjunto_plantilla.h"
+#include "record/record_store.h"
+#include "templates/forms/frmAnalog.h"
+#include "templates/forms/frmBaseModelo.h"
+#include "templates/forms/frmDigital.h"
 #include "templates/forms/frmPlantilla.h"
 #include "templates/forms/frmSalvaPlan.h"
 #include "templates/forms/frmTrifasic.h"
@@ -8,6 +11,35 @@
 namespace veldix {
 
 namespace {
+
+template <class Pagina>
+void MuestraDeNuevo(const Portador<Pagina>& unica)
+{
+    if (Pagina* pagina = unica.Cargado()) pagina->show();
+}
+
+}  // namespace
+
+void EmpiezaPaginas()
+{
+    AbandonaPaginas();
+    frmAnalog::unica.Muestra();
+}
+
+void SigueAnalogicos()
+{
+    frmTrifasic::unica.Muestra();
+}
+
+void SigueTrifasic()
+{
+    frmDigital::unica.Muestra();
+}
+
+void SigueDigital()
+{
+    frmSalvaPlan::unica.Muestra();
+}
 
 void VuelveASeleccion()
 {
@@ -19,59 +51,44 @@ void VuelveASeleccion()
         frmPlantilla::unica.Muestra();
 }
 
-/// In place of the analog page.
-void PasaAnalogicos()
+void AbreModelos()
 {
-    CierraAnalogicos(store, AbreAnalogicos(store));
-    // That page will insist on channels. Without them there is nothing to make groups of.
-    if (store.PlantillaNueva && store.NumCanalPlan == 0) store.NumTrifasicPlan = 0;
+    frmAnalog::unica.Descarga();
+    frmBaseModelo::unica.Muestra();
 }
 
-/// In place of the digital page. That page will refuse a group without members, which could not be mended
-/// here.
-void PasaDigitales()
+void VuelveDeModelos()
 {
-    AbreDigitales(store);
-    SumaMiembros(store);
+    frmBaseModelo::unica.Descarga();
+    frmAnalog::unica.Muestra();
 }
 
-}  // namespace
-
-void EmpiezaPaginas()
+void MuestraAnalogicos()
 {
-    frmSalvaPlan::unica.Descarga();  // of an earlier set-up: it would write this one's tables half edited
-    if (Atrapa(nullptr, PasaAnalogicos))
-        frmTrifasic::unica.Muestra();
-    else
-        VuelveASeleccion();
+    MuestraDeNuevo(frmAnalog::unica);
 }
 
-void SigueTrifasic()
+void MuestraTrifasic()
 {
-    if (Atrapa(nullptr, PasaDigitales))
-        frmSalvaPlan::unica.Muestra();
-    else
-        MuestraAntesDeGuardar();
+    MuestraDeNuevo(frmTrifasic::unica);
 }
 
-void VuelveTrifasic()
+void MuestraDigital()
 {
-    VuelveASeleccion();
-}
-
-void MuestraAntesDeGuardar()
-{
-    if (frmTrifasic* pagina = frmTrifasic::unica.Cargado()) pagina->show();
+    MuestraDeNuevo(frmDigital::unica);
 }
 
 void DescargaPaginas()
 {
+    frmAnalog::unica.Descarga();
     frmTrifasic::unica.Descarga();
+    frmDigital::unica.Descarga();
 }
 
 void AbandonaPaginas()
 {
     DescargaPaginas();
+    frmBaseModelo::unica.Descarga();
     frmSalvaPlan::unica.Descarga();
 }
 

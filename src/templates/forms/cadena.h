@@ -2,23 +2,29 @@
 
 namespace veldix {
 
-/// The steps between the pages of the template set-up: selection, analog channels, three-phase groups,
-/// digital groups, saving. The analog and the digital page are not part of the program yet: a step that
-/// would open one leaves the tables as that page would when it is passed through unchanged, texts of counts
-/// included, and goes on to the next.
+/// The steps between the pages of the template set-up: selection, analog channels (and, aside from them, the
+/// relay models), three-phase groups, digital groups, saving. A page that is left forward hides itself and
+/// keeps its data; the one behind it is always fresh.
 
-/// From the selection, which has unloaded itself, on to the set-up of the template set as it is.
+/// From the selection, which has unloaded itself, to the analog page. Pages of an earlier set-up go.
 void EmpiezaPaginas();
 
-/// On from the three-phase page, which has hidden itself. It comes back where the groups of digital channels
-/// raise an error.
+/// On from a page that has hidden itself.
+void SigueAnalogicos();
 void SigueTrifasic();
+void SigueDigital();
 
-/// Back from the three-phase page, which goes, to the selection, as leaving the analog page backwards does.
-void VuelveTrifasic();
+/// Back from the analog page, which goes with those behind it, to the selection.
+void VuelveASeleccion();
 
-/// Makes the page before the saving dialog visible with all its data, where it is loaded.
-void MuestraAntesDeGuardar();
+/// From the analog page, which goes, aside to the relay models, and from there to a fresh analog page.
+void AbreModelos();
+void VuelveDeModelos();
+
+/// Make a page visible again with all its data, where it is loaded.
+void MuestraAnalogicos();
+void MuestraTrifasic();
+void MuestraDigital();
 
 /// Unloads the pages between the selection and the saving dialog.
 void DescargaPaginas();

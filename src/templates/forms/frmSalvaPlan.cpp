@@ -100,7 +100,7 @@ void frmSalvaPlan::cmdOK_Click()
 void frmSalvaPlan::cmdvolver_Click()
 {
     Descarga();
-    MuestraAntesDeGuardar();
+    MuestraDigital();
 }
 
 void frmSalvaPlan::cmdcancel_Click()
@@ -112,7 +112,7 @@ void frmSalvaPlan::cmdcancel_Click()
 void frmSalvaPlan::TrasError()
 {
     Descarga();
-    MuestraAntesDeGuardar();
+    MuestraDigital();
 }
 
 }  // namespace veldix

@@ -21,19 +21,6 @@ namespace {
 constexpr int kGrupos = 4, kFases = 3;
 const QColor kBlanco(0xFF, 0xFF, 0xFF), kGris(0x80, 0x80, 0x80);
 
-/// Runs a conversion whose type mismatch has a message of its own.
-template <class Cuerpo>
-void AvisaTipos(int texto, Icono icono, Cuerpo&& cuerpo)
-{
-    try {
-        cuerpo();
-    } catch (const ErrorEjecucion& e) {
-        if (e.numero != error::kTipos) throw;
-        PunteroNormal();
-        Avisa(Textos(texto), icono);
-    }
-}
-
 void PintaCaja(QLineEdit* caja, bool activa)
 {
     QPalette p = caja->palette();
@@ -86,7 +73,7 @@ void frmTrifasic::CreaGrupo(int g)
     grupo.ListTrif = new QListWidget(grupo.fmetrif);
     grupo.ListTrif->setObjectName("ListTrif" + numero);
     grupo.ListTrif->setMinimumWidth(grupo.ListTrif->fontMetrics().averageCharWidth() * 30);
-    grupo.filas = new FilasRanura(kFases, grupo.fmetrif, numero);
+    grupo.filas = new FilasRanura(kFases, grupo.fmetrif, {.juego = numero});
     DisponeGrupo(grupo, g);
 }
 
@@ -317,7 +304,14 @@ void frmTrifasic::cmdvolver_Click()
     if (!GuardaGrupos()) return;
     hide();
     store.HechoTrifasic = true;
-    VuelveTrifasic();
+    MuestraAnalogicos();
+}
+
+/// Without the page the one before it, which is hidden, would be the only one.
+void frmTrifasic::TrasError()
+{
+    Descarga();
+    MuestraAnalogicos();
 }
 
 void frmTrifasic::cmdcancel_Click()

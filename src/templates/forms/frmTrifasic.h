@@ -22,7 +22,7 @@ public:
     frmTrifasic();
     static Portador<frmTrifasic> unica;
 
-    void TrasError() override { Descarga(); }
+    void TrasError() override;
 
 private:
     /// One group: its frame and what stands in it. The active slot is the phase that is filled next.

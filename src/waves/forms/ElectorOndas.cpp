@@ -20,7 +20,7 @@ ElectorOndas::ElectorOndas(const char* nombre, const char* marco, Ranuras ranura
 
 FilasRanura* ElectorOndas::CreaFilas(int cuantas, QWidget* padre, int primera)
 {
-    auto* filas = new FilasRanura(cuantas, padre, QString(), primera);
+    auto* filas = new FilasRanura(cuantas, padre, {.primera = primera});
     Conecta(filas, &FilasRanura::Click, this, &ElectorOndas::grp_Click);
     Conecta(filas, &FilasRanura::DblClick, this, &ElectorOndas::grp_DblClick);
     Conecta(filas, &FilasRanura::Change, this, &ElectorOndas::grp_Change);
