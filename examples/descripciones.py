@@ -155,7 +155,9 @@ def lee_modelo(ruta: Path) -> Modelo:
     sin_extension = base[: -len(EXTENSION)]
     medidas = [medida(m, f"measure {n}") for n, m in enumerate(lista(campos["medidas"], "'medidas'"), 1)]
     senales = [senal(s, f"signal {n}") for n, s in enumerate(lista(campos["senales"], "'senales'"), 1)]
-    exige_distintos((str(m[0]) for m in medidas), "measures, $Id")
+    numeros = [m[0] for m in medidas]
+    exige(bool(numeros), "'medidas': there is none")
+    exige(numeros == sorted(set(numeros)), "measures, $Id: they do not rise from each to the next")
     exige_distintos((m[1] for m in medidas), "measures, name")
     exige_distintos((str(s[0]) for s in senales if s[0] >= 0), "signals, ByteOscilo")
     exige_distintos((s[1] for s in senales), "signals, description")
@@ -183,7 +185,7 @@ def nombre_de_base(base: object) -> str:
 def medida(descrita: object, donde: str) -> list[Valor]:
     valores = lista(descrita, donde)
     exige(len(valores) == 4, f"{donde}: not the four of $Id, name, English name and units")
-    exige(es_entero(valores[0], 1, 2**31 - 1), f"{donde}: $Id {valores[0]!r} is not an integer from 1 on")
+    exige(es_entero(valores[0], 1, 2**15 - 2), f"{donde}: $Id {valores[0]!r} is not from 1 to 32766")
     for valor, cual in zip(valores[1:], ("name", "English name", "units")):
         texto(valor, SEPARADORES, f"{donde}, {cual}", vacio=cual != "name")
     return valores

@@ -21,8 +21,9 @@ struct Objetivo {
     {                                \
 #x, veldix::fuzz::Prueba_##x \
     }
-constexpr Objetivo kObjetivos[] = {OBJETIVO(cfg),     OBJETIVO(dat_ascii), OBJETIVO(dat_bin), OBJETIVO(cnf),
-                                   OBJETIVO(ajustes), OBJETIVO(textos),    OBJETIVO(perfil),  OBJETIVO(avi)};
+constexpr Objetivo kObjetivos[] = {OBJETIVO(cfg),    OBJETIVO(dat_ascii), OBJETIVO(dat_bin),
+                                   OBJETIVO(cnf),    OBJETIVO(ajustes),   OBJETIVO(textos),
+                                   OBJETIVO(perfil), OBJETIVO(avi),       OBJETIVO(jet)};
 
 std::vector<fs::path> Ficheros(const fs::path& carpeta)
 {

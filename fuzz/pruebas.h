@@ -15,5 +15,6 @@ int Prueba_ajustes(std::span<const std::uint8_t> entrada);
 int Prueba_textos(std::span<const std::uint8_t> entrada);
 int Prueba_perfil(std::span<const std::uint8_t> entrada);
 int Prueba_avi(std::span<const std::uint8_t> entrada);
+int Prueba_jet(std::span<const std::uint8_t> entrada);
 
 }  // namespace veldix::fuzz

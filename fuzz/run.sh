@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
 [ $# -gt 0 ] && shift
-targets=${*:-cfg dat_ascii dat_bin cnf ajustes textos perfil avi}
+targets=${*:-cfg dat_ascii dat_bin cnf ajustes textos perfil avi jet}
 
 cmake --preset fuzz >/dev/null
 cmake --build build/fuzz --target veldix_fuzz
@@ -21,7 +21,7 @@ export ASAN_OPTIONS="quarantine_size_mb=32:${ASAN_OPTIONS:-}"
 run_one() {
     t=$1
     max=4096
-    case $t in textos) max=8192 ;; esac
+    case $t in textos) max=8192 ;; jet) max=65536 ;; esac
     dict=
     [ -f "fuzz/$t.dict" ] && dict="-dict=fuzz/$t.dict"
     mkdir -p "build/fuzz/corpus/$t" "fuzz/found/$t"

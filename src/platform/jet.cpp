@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <optional>
 #include <utility>
 
 #include "platform/errores.h"
@@ -22,8 +21,10 @@ namespace {
 
 constexpr std::string_view kFirma("\0\1\0\0Standard Jet DB\0", 20);
 constexpr guint32 kPaginaCatalogo = 2;                 // of MSysObjects, in every database
-constexpr std::size_t kMayorTabla = 64 * 1024 * 1024;  // octets of one table's values in memory
+constexpr std::size_t kMayorTabla = 64 * 1024 * 1024;  // octets, of values and of the work for them
+constexpr std::size_t kPorRanura = 64;                 // counted for a slot, whatever it gives
 constexpr unsigned kMayorColumnas = 255;
+constexpr int kClases[] = {MDB_BYTE, MDB_INT, MDB_LONGINT, MDB_FLOAT, MDB_DOUBLE, MDB_TEXT};
 
 // Marks of a row's slot, and the rest of it, which is the row's place on its page.
 constexpr int kRemitida = 0x4000;      // what stands here is the page and slot of the row
@@ -85,10 +86,11 @@ private:
     /// What is being read of one table.
     struct Lectura {
         MdbTableDef* tabla;
-        std::vector<const MdbColumn*> columnas;
-        std::vector<MdbField> campos;
+        std::vector<MdbField> campos;            ///< of the row at hand, for each column
+        std::vector<const MdbColumn*> columnas;  ///< those that are read
+        std::vector<std::size_t> sitios;         ///< and their places among all
         std::vector<std::vector<ValorJet>> filas;
-        std::size_t octetos = 0;
+        std::size_t octetos = 0;  ///< that it costs
 
         void Cuenta(std::size_t n)
         {
@@ -103,8 +105,6 @@ private:
     void LeeRemitida(Lectura& lectura, int lugar);
     ValorJet Valor(Lectura& lectura, const MdbColumn& columna, const MdbField& campo);
     std::string Texto(Lectura& lectura, std::string_view octetos);
-    std::string Memo(Lectura& lectura, std::string_view cabeza);
-    std::optional<std::string_view> TrozoDeMemo(guint32 sitio);
 
     int Tamano() const { return static_cast<int>(jet_->fmt->pg_size); }
 
@@ -116,8 +116,7 @@ private:
 
 BaseJet::Lector::Lector(const std::string& ruta) : octetos_(LeeBase(ruta))
 {
-    static const bool limpio = (LimpiaEntorno(), true);
-    static_cast<void>(limpio);
+    LimpiaEntorno();
     constexpr std::size_t kVersion = 0x14;
     if (octetos_.size() <= kVersion || !octetos_.starts_with(kFirma)) Danada();
     const char version = octetos_[kVersion];
@@ -165,11 +164,15 @@ Definicion BaseJet::Lector::Define(guint32 pagina)
 Recordset BaseJet::Lector::Lee(guint32 pagina)
 {
     const Definicion tabla = Define(pagina);
-    Lectura lectura{tabla.get(), {}, std::vector<MdbField>(tabla->num_cols), {}, 0};
+    Lectura lectura{tabla.get(), std::vector<MdbField>(tabla->num_cols), {}, {}, {}};
     std::vector<std::string> nombres;
     for (guint i = 0; i < tabla->num_cols; ++i) {
-        lectura.columnas.push_back(static_cast<const MdbColumn*>(g_ptr_array_index(tabla->columns, i)));
-        nombres.emplace_back(lectura.columnas.back()->name);
+        const auto* columna = static_cast<const MdbColumn*>(g_ptr_array_index(tabla->columns, i));
+        if (std::find(std::begin(kClases), std::end(kClases), columna->col_type) == std::end(kClases))
+            continue;
+        lectura.columnas.push_back(columna);
+        lectura.sitios.push_back(i);
+        nombres.emplace_back(columna->name);
     }
     mdb_rewind_table(tabla.get());
     while (mdb_read_next_dpg(tabla.get()))
@@ -185,12 +188,14 @@ void BaseJet::Lector::LeePagina(Lectura& lectura)
     const int caben = (Tamano() - cuenta - 2) / 2;
     const int ranuras = std::min(mdb_get_int16(jet_->pg_buf, cuenta), caben);
     for (int r = 0; r < ranuras; ++r) {
+        lectura.Cuenta(kPorRanura);
         const int ranura = mdb_get_int16(jet_->pg_buf, cuenta + 2 + 2 * r);
         if ((ranura & kSoloRemitida) != 0) continue;
         if ((ranura & kRemitida) == 0) {
             LeeFila(lectura, r);
             continue;
         }
+        lectura.Cuenta(static_cast<std::size_t>(Tamano()));
         LeeRemitida(lectura, ranura & kLugar);
         if (!mdb_read_pg(jet_.get(), pagina)) Danada();
     }
@@ -216,7 +221,7 @@ void BaseJet::Lector::LeeFila(Lectura& lectura, int ranura)
     fila.reserve(lectura.columnas.size());
     lectura.Cuenta(sizeof(fila) + lectura.columnas.size() * sizeof(ValorJet));
     for (std::size_t i = 0; i < lectura.columnas.size(); ++i)
-        fila.push_back(Valor(lectura, *lectura.columnas[i], lectura.campos[i]));
+        fila.push_back(Valor(lectura, *lectura.columnas[i], lectura.campos[lectura.sitios[i]]));
     lectura.filas.push_back(std::move(fila));
 }
 
@@ -243,8 +248,6 @@ ValorJet BaseJet::Lector::Valor(Lectura& lectura, const MdbColumn& columna, cons
             return numero(8, [&] { return mdb_get_double(en, 0); });
         case MDB_TEXT:
             return Texto(lectura, octetos);
-        case MDB_MEMO:
-            return Memo(lectura, octetos);
         default:
             return {};
     }
@@ -261,46 +264,6 @@ std::string BaseJet::Lector::Texto(Lectura& lectura, std::string_view octetos)
     texto.resize(static_cast<std::size_t>(std::max(0, largo)));
     lectura.Cuenta(texto.size());
     return texto;
-}
-
-/// A memo is a head of 12 octets with its text behind it, in one other place, or in a chain of them.
-std::string BaseJet::Lector::Memo(Lectura& lectura, std::string_view cabeza)
-{
-    constexpr std::size_t kCabeza = 12, kEnlace = 4;
-    constexpr guint32 kAqui = 0x80000000, kUnSitio = 0x40000000, kLargo = 0x3FFFFFFF;
-    if (cabeza.size() < kCabeza) return {};
-    auto* en = reinterpret_cast<unsigned char*>(const_cast<char*>(cabeza.data()));
-    const auto marca = static_cast<guint32>(mdb_get_int32(en, 0));
-    if ((marca & kAqui) != 0) return Texto(lectura, cabeza.substr(kCabeza));
-    auto sitio = static_cast<guint32>(mdb_get_int32(en, 4));
-    const bool unSitio = (marca & kUnSitio) != 0;
-    std::string todo;
-    while (sitio != 0 && todo.size() < (marca & kLargo)) {
-        const std::optional<std::string_view> trozo = TrozoDeMemo(sitio);
-        if (!trozo || (!unSitio && trozo->size() <= kEnlace)) break;
-        lectura.Cuenta(trozo->size());
-        if (unSitio) {
-            todo = *trozo;
-            break;
-        }
-        sitio = static_cast<guint32>(mdb_get_int32(const_cast<char*>(trozo->data()), 0));
-        todo += trozo->substr(kEnlace);
-    }
-    todo.resize(std::min<std::size_t>(todo.size(), marca & kLargo));
-    return Texto(lectura, todo);
-}
-
-/// The octets of another page's slot, there until the next is asked for; the page in the buffer stays.
-std::optional<std::string_view> BaseJet::Lector::TrozoDeMemo(guint32 sitio)
-{
-    void* pagina = nullptr;
-    int inicio = 0;
-    std::size_t largo = 0;
-    if ((sitio >> 8) >= paginas_) return {};
-    if (mdb_find_pg_row(jet_.get(), static_cast<int>(sitio), &pagina, &inicio, &largo) != 0) return {};
-    inicio &= kLugar;
-    if (largo > static_cast<std::size_t>(std::max(0, Tamano() - inicio))) return {};
-    return std::string_view(static_cast<const char*>(pagina) + inicio, largo);
 }
 
 BaseJet::BaseJet(const std::string& ruta) : lector_(std::make_unique<Lector>(ruta)) {}

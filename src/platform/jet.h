@@ -56,7 +56,7 @@ public:
     std::vector<std::string> Tablas() const;
 
     /// All rows of a table, whose name matches as those of fields do, in their stored order, with the fields
-    /// of 8, 16 and 32-bit integers, floating numbers, texts and memos; those of other kinds read as NULL.
+    /// of 8, 16 and 32-bit integers, floating numbers and texts; those of other kinds are not among them.
     /// Raises 3265 where there is no such table, 3343 where it is damaged, 7 where it is out of all measure.
     Recordset AbreTabla(std::string_view nombre) const;
 

@@ -33,7 +33,8 @@ bool Ranuras::Esta(const std::string& texto, int numero) const
     const int primera = (activa_ - 1) / grupo_ * grupo_ + 1;
     const int ultima = regla_ == Repetida::HastaPorTexto ? activa_ : activa_ - 1;
     for (int k = primera; k <= ultima; ++k)
-        if (const Ranura& r = (*this)(k); r.texto == texto && (porTexto || Val(r.numero) == numero))
+        if (const Ranura& r = (*this)(k);
+            r.texto == texto && (porTexto || r.numero == FormaDelimitada(numero)))
             return true;
     return false;
 }

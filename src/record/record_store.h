@@ -163,7 +163,7 @@ struct GrupoBanderas {
     bool ModeloCargado = false;    ///< `CanalesPlan` came from a relay model
     std::string EstacionAnterior;  ///< station when a template was taken for a modification
     bool VuelveAnalog = false;     ///< the analog page was left backwards
-    bool VueltaDigital = false;    ///< the digital page's tables are to be kept when they grow
+    bool VueltaDigital = false;    ///< rows of the digital page were moved since its tables were sized
     bool HechoTrifasic = false;    ///< the three-phase page was left backwards once
     bool EnPrimario = false, EnSecundario = false;  ///< what `Muestras` now holds; never both
     bool DFTHecha = false;

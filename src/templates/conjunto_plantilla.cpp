@@ -69,7 +69,7 @@ int FilasDeOrigen(const RecordStore& s, std::int16_t cuenta)
 int FilaSinNombre(const Tabla1<FilaCanal>& filas)
 {
     const auto vacia = [](const FilaCanal& f) {
-        return Recorta(f.Nombre).empty() && Recorta(f.Circuito).empty();
+        return SinBlancos(f.Nombre).empty() && SinBlancos(f.Circuito).empty();
     };
     const FilaCanal* primera = std::find_if(filas.begin(), filas.end(), vacia);
     return primera == filas.end() ? 0 : static_cast<int>(primera - filas.begin()) + 1;
@@ -110,8 +110,8 @@ void AbreDigitales(RecordStore& s)
         return;
     }
     // The count may be that of groups edited before; the page begins anew with those that were read.
-    if (s.NumGruposDigPlan > 0) s.NumGruposDigPlan = static_cast<std::int16_t>(s.GruposDigPlan.Cuantos());
-    if (s.NumGruposDigPlan < 1) return;
+    s.NumGruposDigPlan = static_cast<std::int16_t>(s.GruposDigPlan.Cuantos());
+    if (s.NumGruposDigPlan == 0) return;
     s.GruposEdit = Tabla1<FilaGrupoEdit>(s.NumGruposDigPlan);
     s.GruposEditNum = Tabla2<std::int16_t>(s.NumGruposDigPlan, kColumnasEdit);
     for (int i = 1, r = 1; i <= s.NumGruposDigPlan; ++i)

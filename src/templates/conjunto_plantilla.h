@@ -43,8 +43,8 @@ std::vector<std::string> CanalesDigitales(RecordStore& s);
 /// Members of a group in the edit tables. Raises 13 for a text that is no number, 6.
 std::int16_t Miembros(const FilaGrupoEdit& grupo);
 
-/// Fills `GruposEdit` and `GruposEditNum` with the groups read, each count as the text it was read as; a new
-/// template starts with no groups. Raises 9 for a group with over 19 members or with more than
+/// Fills `GruposEdit` and `GruposEditNum` with the rows of `GruposDigPlan`, each count as the text it was
+/// read as; a new template starts with no groups. Raises 9 for a group with over 19 members or with more than
 /// `CanalesDigPlan` has left, 13 for a count or a member's number that is no number.
 void AbreDigitales(RecordStore& s);
 

@@ -112,6 +112,13 @@ void GruposDigitales::Guarda(const std::string& nombre)
     GuardaGrupo(GrupoActual_, nombre);
 }
 
+int GruposDigitales::Cierra(const std::string& nombre)
+{
+    PonNumGrupos(static_cast<int>(lista_.size()));
+    Guarda(nombre);
+    return SumaMiembros(s_);
+}
+
 void GruposDigitales::Elige(int grupo, const std::string& nombre)
 {
     Guarda(nombre);

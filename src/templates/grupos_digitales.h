@@ -44,6 +44,10 @@ public:
     /// Stores the page under `nombre`, its gaps closed; what cannot be stored stays as it was.
     void Guarda(const std::string& nombre);
 
+    /// Stores the page likewise and the counts of groups and members. The first group that has no members, or
+    /// 0. Raises what SumaMiembros raises.
+    int Cierra(const std::string& nombre);
+
 private:
     /// Sets the count of groups and gives the edit tables as many rows, up to sixteen, their contents kept.
     void PonNumGrupos(int grupos);

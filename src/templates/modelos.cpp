@@ -1,5 +1,6 @@
 #include "templates/modelos.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "platform/enteros.h"
@@ -27,7 +28,7 @@ std::optional<BaseModelo> BuscaModelo(const RecordStore& s, const std::string& n
 {
     constexpr std::size_t kExtension = 4;  // with its point
     for (Recordset modelos = AbreMaestra(s); !modelos.Eof(); modelos.MoveNext()) {
-        if (!Coincide(modelos.Texto("Modelo"), nombre)) continue;
+        if (!Coincide(UnaLinea(modelos.Texto("Modelo")), nombre)) continue;
         const std::string fichero = modelos.Texto("BaseDatos");
         return BaseModelo{BaseJet(RutaModelos(s.RutaPrograma, fichero)),
                           std::string(SinFinal(fichero, kExtension))};
@@ -51,7 +52,8 @@ void LeeModeloAnalog(RecordStore& s, const std::string& nombre)
     if (!modelo) return;
     Recordset medidas = modelo->base.AbreTabla("VDOSMedidas oscilos " + modelo->nombre);
     medidas.MoveLast();
-    Tabla1<FilaCanal> canales(Entero32(medidas.Numero("$Id") + 1.0));
+    constexpr double kMayor = 32767.0;  // no page counts further
+    Tabla1<FilaCanal> canales(Entero16(std::min(medidas.Numero("$Id") + 1.0, kMayor)));
     int n = 0;
     for (medidas.MoveFirst(); !medidas.Eof(); medidas.MoveNext()) {
         ++n;

@@ -52,7 +52,7 @@ FilasRanura::Fila FilasRanura::CreaFila(int k, const QString& juego)
     f.grp = new QLineEdit(this);
     f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
     f.grp->setReadOnly(!editable_);
-    f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * 24);
+    f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * (editable_ ? 32 : 24));
     f.grp->setAccessibleName(QString::number(k));
     connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
     Vigila(f.lblpunt, k);
@@ -67,7 +67,7 @@ void FilasRanura::CreaNumero(Fila& fila, int k, const QString& nombre)
         fila.numero->setObjectName(nombre);
         fila.numero->setAccessibleName(QString::number(k));
         fila.numero->setAlignment(Qt::AlignRight);
-        fila.numero->setFixedWidth(fila.numero->fontMetrics().horizontalAdvance("00000000"));
+        fila.numero->setFixedWidth(fila.numero->fontMetrics().horizontalAdvance("0000000"));
         connect(fila.numero, &QLineEdit::textChanged, this, [this, k] { Q_EMIT CambiaNumero(k); });
         Vigila(fila.numero, k);
         return;
@@ -90,10 +90,12 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
     for (const Fila& f : filas_) {
         ++k;
         Pinta(f.lblpunt, k == ranuras.Activa());
+        if (const QString texto = Q(ranuras(k).texto); f.grp->text() != texto) {
+            f.grp->setText(texto);
+            f.grp->setCursorPosition(0);
+        }
         if (f.lbl) f.lbl->setText(Q(ranuras(k).numero));
         if (f.numero) f.numero->setText(Q(ranuras(k).numero));
-        f.grp->setText(Q(ranuras(k).texto));
-        f.grp->setCursorPosition(0);
     }
 }
 
@@ -117,13 +119,10 @@ bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)
         if (izquierdo()) Q_EMIT DblClick(k);
         return true;
     } else if (evento->type() == QEvent::KeyPress && caja) {
-        const auto* pulsada = static_cast<QKeyEvent*>(evento);
-        const int tecla = pulsada->key();
-        const bool vale = !editable_ || pulsada->modifiers() == Qt::ControlModifier;
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
         const bool borra = tecla == Qt::Key_Delete || tecla == Qt::Key_Backspace;
-        if (vale && tecla == Qt::Key_Space) Q_EMIT Click(k);
-        if (vale && borra) Q_EMIT DblClick(k);
-        if (editable_ && vale && (borra || tecla == Qt::Key_Space)) return true;
+        if (tecla == (editable_ ? Qt::Key_F2 : Qt::Key_Space)) Q_EMIT Click(k);
+        if (editable_ ? tecla == Qt::Key_F8 : borra) Q_EMIT DblClick(k);
     }
     return QWidget::eventFilter(objeto, evento);
 }

@@ -12,7 +12,7 @@ namespace veldix {
 
 /// The rows of a set of slots: a marker `lblpunt`, the channel's name `grp`, its number `lbl`, each with its
 /// slot's number behind its name. It shows what it is told and reports the mouse; on a name the space bar is
-/// a click and the delete keys are a double click, with Ctrl where names are typed.
+/// a click and the delete keys are a double click; F2 and F8 where names are typed.
 class FilasRanura : public QWidget {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones);
 
     /// Shows the slots' texts and the marker, in colour 14 of the palette on the active slot, 15 elsewhere.
-    /// Numbers change before names.
+    /// A name changes before its number.
     void Muestra(const Ranuras& ranuras);
     /// Takes the marker's colour off all slots, until the next Muestra.
     void Desmarca();

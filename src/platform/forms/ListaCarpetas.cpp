@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QStyle>
 
@@ -218,7 +219,8 @@ std::string ListaFicheros::Fichero() const
 
 void ListaFicheros::keyPressEvent(QKeyEvent* evento)
 {
-    if (!EsEntrar(*evento) || Elegida() < 0) {
+    static const QMetaMethod doble = QMetaMethod::fromSignal(&ListaFicheros::DblClick);
+    if (!EsEntrar(*evento) || Elegida() < 0 || !isSignalConnected(doble)) {
         ListaClic::keyPressEvent(evento);
         return;
     }

@@ -57,7 +57,7 @@ private:
     std::string ruta_;
 };
 
-/// A list that reports each choice of the user once. With nothing selected an arrow key takes the first line.
+/// A list that reports each choice once. With nothing selected an arrow key takes the first line.
 class ListaClic : public QListWidget {
     Q_OBJECT
 

@@ -32,7 +32,10 @@ void Formulario::Descarga()
 void Formulario::closeEvent(QCloseEvent* evento)
 {
     evento->ignore();
-    Atrapa(this, [this] { Descarga(); });
+    Atrapa(this, [this] {
+        Descarga();
+        TrasCierre();
+    });
 }
 
 void Formulario::PonBotones(QAbstractButton* porDefecto, QAbstractButton* cancela)

@@ -30,6 +30,10 @@ public:
     /// The buttons that Enter and Escape press, where the control with the focus does not take the key.
     void PonBotones(QAbstractButton* porDefecto, QAbstractButton* cancela);
 
+    /// What follows the form's unload by its window's own button: a page that leaves others hidden behind it
+    /// brings one back.
+    virtual void TrasCierre() {}
+
     /// What follows a run-time error of a handler, after the common box. A form that is told to unload or
     /// to bring the menu back does it here.
     virtual void TrasError() {}

@@ -12,10 +12,28 @@
 
 namespace veldix {
 
+namespace {
+
+/// A cell that tells its whole text where the column cuts it.
+class Celda : public QTableWidgetItem {
+public:
+    QTableWidgetItem* clone() const override { return new Celda(*this); }
+    QVariant data(int papel) const override
+    {
+        if (papel == Qt::ToolTipRole) return text().toHtmlEscaped();
+        return QTableWidgetItem::data(papel);
+    }
+};
+
+}  // namespace
+
 Rejilla::Rejilla(int columnas, QWidget* padre) : QTableWidget(0, columnas, padre), esquina_(new QLabel)
 {
     setTabKeyNavigation(false);
-    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    setItemPrototype(new Celda);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);
     esquina_->setObjectName("esquina");
     esquina_->setAlignment(Qt::AlignCenter);
@@ -53,7 +71,7 @@ void Rejilla::PonAnchos(int esquina, std::initializer_list<int> columnas)
 
 QSize Rejilla::sizeHint() const
 {
-    constexpr int kFilasALaVista = 14;
+    constexpr int kFilasALaVista = 16;
     const int ancho = verticalHeader()->width() + horizontalHeader()->length() +
                       verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
     const int alto = horizontalHeader()->sizeHint().height() +
@@ -75,10 +93,10 @@ std::string Rejilla::Texto(int fila, int columna) const
 
 void Rejilla::PonTexto(int fila, int columna, const std::string& texto)
 {
-    if (QTableWidgetItem* celda = item(fila - 1, columna - 1))
-        celda->setText(Q(texto));
-    else if (!texto.empty())
-        setItem(fila - 1, columna - 1, new QTableWidgetItem(Q(texto)));
+    QTableWidgetItem* celda = item(fila - 1, columna - 1);
+    if (!celda && texto.empty()) return;
+    if (!celda) setItem(fila - 1, columna - 1, celda = new Celda);
+    celda->setText(Q(texto));
 }
 
 void Rejilla::TerminaEdicion()
@@ -94,10 +112,20 @@ void Rejilla::TerminaEdicion()
 void Rejilla::keyPressEvent(QKeyEvent* evento)
 {
     const bool enter = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-    if (!enter || state() == EditingState || evento->modifiers() & ~Qt::KeypadModifier) {
+    if (!enter || rowCount() == 0 || state() == EditingState || evento->modifiers() & ~Qt::KeypadModifier)
         QTableWidget::keyPressEvent(evento);
-        return;
-    }
+    else
+        BajaFila();
+}
+
+void Rejilla::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint siguiente)
+{
+    QTableWidget::closeEditor(editor, siguiente);
+    if (siguiente == QAbstractItemDelegate::SubmitModelCache) BajaFila();
+}
+
+void Rejilla::BajaFila()
+{
     if (currentRow() + 1 < rowCount()) setCurrentCell(currentRow() + 1, currentColumn());
 }
 

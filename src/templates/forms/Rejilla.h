@@ -8,8 +8,8 @@
 
 namespace veldix {
 
-/// A grid of texts with a captioned corner and numbered rows; rows and columns count from 1. Enter on a cell
-/// goes to the row below, Tab leaves the grid.
+/// A grid of texts with a captioned corner and numbered rows; rows and columns count from 1. Enter goes to
+/// the row below, Tab to the next cell while one is typed into, else out of the grid.
 class Rejilla : public QTableWidget {
     Q_OBJECT
 
@@ -34,10 +34,12 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint siguiente) override;
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     int Ancho(int caracteres) const;
+    void BajaFila();
 
     QLabel* esquina_;
 };

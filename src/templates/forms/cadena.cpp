@@ -23,6 +23,8 @@ void MuestraDeNuevo(const Portador<Pagina>& unica)
 void EmpiezaPaginas()
 {
     AbandonaPaginas();
+    // A file without groups leaves the rows of the one read before it.
+    if (store.NumGruposDigPlan < 1) store.GruposDigPlan = {};
     frmAnalog::unica.Muestra();
 }
 

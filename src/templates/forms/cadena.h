@@ -29,7 +29,8 @@ void MuestraDigital();
 /// Unloads the pages between the selection and the saving dialog.
 void DescargaPaginas();
 
-/// Unloads every page behind the selection: the tables they edit are those of a record or set that has gone.
+/// Unloads every page behind the selection: the tables they edit are those of a record or of a template set
+/// that has gone.
 void AbandonaPaginas();
 
 /// Ends the set-up without saving: the pages go, the selection is as it was.

@@ -44,7 +44,7 @@ void frmAnalog::CreaControles()
     txtIdentif->setTabChangesFocus(true);
     const int margenes =
         2 * txtIdentif->frameWidth() + static_cast<int>(2 * txtIdentif->document()->documentMargin());
-    txtIdentif->setFixedHeight(2 * txtIdentif->fontMetrics().lineSpacing() + margenes);
+    txtIdentif->setFixedHeight(5 * txtIdentif->fontMetrics().lineSpacing() / 2 + margenes);
     txtnumAnalog = new QLineEdit(this);
     txtnumAnalog->setObjectName("txtnumAnalog");
     txtnumAnalog->setMaximumWidth(txtnumAnalog->fontMetrics().averageCharWidth() * 8);
@@ -197,6 +197,11 @@ void frmAnalog::cmdcancel_Click()
 void frmAnalog::cmdmodelos_Click()
 {
     AbreModelos();
+}
+
+void frmAnalog::TrasCierre()
+{
+    CancelaPaginas();
 }
 
 void frmAnalog::TrasError()

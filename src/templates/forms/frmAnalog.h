@@ -18,6 +18,7 @@ public:
     frmAnalog();
     static Portador<frmAnalog> unica;
 
+    void TrasCierre() override;
     void TrasError() override;
 
 private:

@@ -1,6 +1,5 @@
 #include "templates/forms/frmBaseModelo.h"
 
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -106,10 +105,9 @@ void frmBaseModelo::cmdCancelar_Click()
     VuelveDeModelos();
 }
 
-void frmBaseModelo::closeEvent(QCloseEvent* evento)
+void frmBaseModelo::TrasCierre()
 {
-    evento->ignore();
-    Atrapa(this, [this] { cmdCancelar_Click(); });
+    VuelveDeModelos();
 }
 
 }  // namespace veldix

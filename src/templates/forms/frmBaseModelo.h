@@ -18,9 +18,8 @@ public:
     frmBaseModelo();
     static Portador<frmBaseModelo> unica;
 
-protected:
-    /// Leads back to the analog page, which has gone when this one was opened.
-    void closeEvent(QCloseEvent* evento) override;
+    /// Leads back to the analog page, which went when this one was opened.
+    void TrasCierre() override;
 
 private:
     void CreaControles();

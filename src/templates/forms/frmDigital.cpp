@@ -147,7 +147,7 @@ void frmDigital::List1_DblClick()
     }
     const std::string TextoCanal = U(List1->item(indice)->text());
     if (grupos_.Filas().Pon(TextoCanal, indice + 1) == Ranuras::Puesta::Llena) {
-        Avisa(Textos(184), Icono::Critico);
+        Avisa(Textos(184));
         return;
     }
     MuestraFilas();
@@ -192,7 +192,7 @@ void frmDigital::lbl_Change(int k)
 
 void frmDigital::txtnbgrp_Change()
 {
-    if (txtGrupos->text().isEmpty()) Avisa(Textos(182), Icono::Critico);
+    if (txtGrupos->text().isEmpty()) Avisa(Textos(182));
 }
 
 void frmDigital::List2_Click()
@@ -224,9 +224,9 @@ void frmDigital::cmdEliminar_Click()
 
 void frmDigital::cmdOK_Click()
 {
-    grupos_.Guarda(U(txtnbgrp->text()));
+    const int vacio = grupos_.Cierra(U(txtnbgrp->text()));
     MuestraFilas();
-    if (const int vacio = SumaMiembros(store)) {
+    if (vacio != 0) {
         PunteroNormal();
         Avisa(Textos(179) + FormaDelimitada(vacio) + Textos(180), Icono::Critico);
         return;
@@ -247,11 +247,15 @@ void frmDigital::cmdcancel_Click()
     CancelaPaginas();
 }
 
-/// Without the page the one before it, which is hidden, would be the only one.
+void frmDigital::TrasCierre()
+{
+    MuestraTrifasic();
+}
+
 void frmDigital::TrasError()
 {
     Descarga();
-    MuestraTrifasic();
+    TrasCierre();
 }
 
 }  // namespace veldix

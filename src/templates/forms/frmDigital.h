@@ -20,6 +20,8 @@ public:
     frmDigital();
     static Portador<frmDigital> unica;
 
+    /// The page before this one is hidden: it comes back, or no page would be in sight.
+    void TrasCierre() override;
     void TrasError() override;
 
 private:

@@ -110,12 +110,13 @@ bool frmPlantilla::EsPlantilla()
     return false;
 }
 
-/// The template counts as applied, and the record's tables are gone, before the file is looked at: one that
-/// is refused by its ending or its version leaves it so.
+/// The template counts as applied, and three tables of the set are gone, before the file is looked at: one
+/// that is refused by its ending or its version leaves it so.
 void frmPlantilla::cmdBuscar_Click()
 {
     store.PlantillaModifica = store.VuelveAnalog = false;
     if (!HayFichero()) return;
+    AbandonaPaginas();
     store.PlantillaAplicada = true;
     PonPuntero(this, Puntero::Espera);
     store.CanalesPlan = {};

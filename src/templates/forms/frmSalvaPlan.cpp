@@ -74,14 +74,7 @@ void frmSalvaPlan::File1_Click()
     Text2->setText(Q(std::string(SinFinal(elector_->File1->Fichero(), kExtension))));
 }
 
-/// A name is as it was typed; of the two endings that a template may have, the one that is there.
-std::string frmSalvaPlan::RutaPlantilla(const std::string& tronco)
-{
-    const std::string otra = tronco + ".CNF";
-    return !ExisteFichero(tronco + ".cnf") && ExisteFichero(otra) ? otra : tronco + ".cnf";
-}
-
-/// The pages go before the file is written: after a failure only the template set is left.
+/// The pages go before the file is written: after a failure only the tables are left.
 void frmSalvaPlan::cmdOK_Click()
 {
     const std::string nombre = U(Text2->text());
@@ -89,7 +82,7 @@ void frmSalvaPlan::cmdOK_Click()
         Avisa(Textos(243));
         return;
     }
-    const std::string ruta = RutaPlantilla(UneRuta(elector_->Carpeta(), nombre));
+    const std::string ruta = UneRuta(elector_->Carpeta(), nombre) + ".cnf";
     if (ExisteFichero(ruta) && !Pregunta(Textos(138))) return;
     DescargaPaginas();
     GrabarPlantilla(store, ruta);
@@ -109,10 +102,15 @@ void frmSalvaPlan::cmdcancel_Click()
     Descarga();
 }
 
+void frmSalvaPlan::TrasCierre()
+{
+    MuestraDigital();
+}
+
 void frmSalvaPlan::TrasError()
 {
     Descarga();
-    MuestraDigital();
+    TrasCierre();
 }
 
 }  // namespace veldix

@@ -17,6 +17,8 @@ public:
     frmSalvaPlan();
     static Portador<frmSalvaPlan> unica;
 
+    /// The page before this one is hidden: it comes back, or no page would be in sight.
+    void TrasCierre() override;
     void TrasError() override;
 
 private:
@@ -25,7 +27,6 @@ private:
     void Form_Load();
 
     void File1_Click();
-    static std::string RutaPlantilla(const std::string& tronco);
     void cmdOK_Click();
     void cmdvolver_Click();
     void cmdcancel_Click();

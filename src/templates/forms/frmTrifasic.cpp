@@ -307,11 +307,15 @@ void frmTrifasic::cmdvolver_Click()
     MuestraAnalogicos();
 }
 
-/// Without the page the one before it, which is hidden, would be the only one.
+void frmTrifasic::TrasCierre()
+{
+    MuestraAnalogicos();
+}
+
 void frmTrifasic::TrasError()
 {
     Descarga();
-    MuestraAnalogicos();
+    TrasCierre();
 }
 
 void frmTrifasic::cmdcancel_Click()

@@ -22,6 +22,8 @@ public:
     frmTrifasic();
     static Portador<frmTrifasic> unica;
 
+    /// The page before this one is hidden: it comes back, or no page would be in sight.
+    void TrasCierre() override;
     void TrasError() override;
 
 private:

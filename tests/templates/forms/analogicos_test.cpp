@@ -1,6 +1,7 @@
-#include "templates/conjunto_plantilla.h"
 #include "templates/forms/frmAnalog.h"
+#include "templates/forms/frmBaseModelo.h"
 #include "templates/forms/paginas.h"
+#include "templates/modelos.h"
 
 namespace veldix {
 namespace {
@@ -26,6 +27,8 @@ protected:
             *std::find_if(editores.begin(), editores.end(), [](auto* e) { return !e->isHidden(); });
         QTest::keyClicks(editor, texto + 1);
         QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();  // the editor closes behind the key
+        EXPECT_EQ(t.currentRow(), std::min(fila, t.Filas() - 1)) << "Enter goes down";
     }
     static void Identifica(const char* texto)
     {
@@ -124,6 +127,8 @@ TEST_F(Analogicos, AModelsChannelsOrAFailedDatabaseLeadToTheWrongPage)
     Teclea("lblNomModelo", "Lejos", "cmdOK");
     Teclea("lblNomModelo", "nadie", "cmdOK");
     EXPECT_TRUE(Pagina() == "frmBaseModelo" && store.CanalesPlan.Vacia() && !store.ModeloCargado);
+    frmBaseModelo::unica.Cargado()->close();  // as Cancelar does
+    abre(0);
     Clic("List1", 1, true);
     Pulsa("cmdOK");
     EXPECT_EQ(Texto("txtnumAnalog") + U(Da<QPlainTextEdit>("txtIdentif")->toPlainText()), "3Relé 1");
@@ -134,6 +139,22 @@ TEST_F(Analogicos, AModelsChannelsOrAFailedDatabaseLeadToTheWrongPage)
     Pulsa("cmdvolver");
     Pulsa("cmdOK");
     EXPECT_EQ(Da<QListWidget>("List1")->count(), 0) << "a model's signals are offered once";
+}
+
+TEST_F(Analogicos, WithARecordOrAModificationAModelGivesTheWrongCountOrName)
+{
+    Pulsa("cmdNueva");
+    Pulsa("cmdmodelos");
+    Teclea("lblNomModelo", "nadie", "cmdOK");  // the record has channels
+    EXPECT_EQ(Texto("txtnumAnalog") + U(Da<QPlainTextEdit>("txtIdentif")->toPlainText()) + Fila(1),
+              "3nadieVR//");
+    Pulsa("cmdvolver");
+    Elige("p.cnf", "cmdModif");
+    Pulsa("cmdmodelos");
+    Teclea("lblNomModelo", "*1", "cmdOK");  // the first that fits
+    EXPECT_EQ(Texto("txtnumAnalog") + Fila(1), "4Intensidad fase A/Phase A current/A");
+    EXPECT_EQ(Fila(4), "//") << "a row that the model lacks";
+    EXPECT_EQ(LeeModeloDigital(store, "Relé 2") + store.NumDigitalPlan, 0) << "none is recorded";
 }
 
 }  // namespace

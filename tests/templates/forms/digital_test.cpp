@@ -91,7 +91,7 @@ TEST_F(Digitales, TheTwentiethChannelTheSeventeenthGroupOrASameNameComesIn)
 {
     Abre(nullptr);
     Anade("G1");
-    Espera(184);
+    Espera(184, Icono::Ninguno);
     for (int i = 1; i <= 20; ++i)
         Asigna("List1", {i});
     EXPECT_EQ(Texto("grp19") + Filas().substr(0, 4), "d19 1d1") << "no row is marked";
@@ -170,13 +170,62 @@ TEST_F(Digitales, ChannelsOnOfferComeFromTheWrongSourceOrTooManyMembersOpen)
     EXPECT_EQ(Pagina(), "frmTrifasic");
     store.PlantillaModifica = false;  // as the pages are with neither command
     store.EstacionPlan = "REC", store.NombreEstacion = "R?C";
-    store.NumGruposDigPlan = 0;
+    store.GruposDigPlan = {};
     Pulsa("cmdOK");
     EXPECT_EQ(Da<QListWidget>("List1")->count(), 24);
     Pulsa("cmdvolver");
     store.NombreEstacion = "otra";
     Pulsa("cmdOK");
     EXPECT_EQ(Da<QListWidget>("List1")->count(), 0);
+}
+
+TEST_F(Digitales, AnotherTemplatesGroupsOrCountsComeIntoThePage)
+{
+    Abre("p.cnf");
+    frmPlantilla::unica.Muestra();  // by the menu, while the page stands
+    cajas.Espera(Textos(253), Icono::Critico);
+    Elige("p.cnf", "cmdBuscar");
+    EXPECT_EQ(Pagina(), "frmPlantilla") << "its tables have been read anew";
+    c.Escribe("pla/sin.cnf", ConFinales(kCabeza + "|-----"));
+    frmPlantilla::unica.Muestra();
+    Abre("sin.cnf");
+    Anade("G%");
+    Pulsa("cmdvolver");
+    Pulsa("cmdOK");
+    EXPECT_EQ(Grupos(), "0:|") << "the groups of the file: none";
+    store.NombreDig(1) = "a%b";
+    Pulsa("cmdvolver");
+    Pulsa("cmdOK");
+    Anade("G%$");
+    Espera(176);
+    Asigna("List1", {1, 2});
+    EXPECT_EQ(Filas(), " 1 2d2 *") << "the name goes, the number stays";
+    QTest::keyClick(Da<QLineEdit>("lbl1"), Qt::Key_F8);
+    EXPECT_EQ(Guardada(), ConFinales("DIGITALES|1| 1 |***|G%$| 1 |2%d2$|-----"));
+}
+
+TEST_F(Digitales, MoreGroupsThanThePageAddsLoseMembersOnTheirWayDown)
+{
+    std::string lineas = kCabeza + "|DIGITALES|18| 18 ", queda = "|DIGITALES|15| 15 ";
+    for (int i = 1; i <= 18; ++i) {
+        const std::string grupo = "|***|g" + std::to_string(i) + "| 1 |" + std::to_string(i) + "%d$";
+        lineas += grupo;
+        if (i > 3) queda += grupo;
+    }
+    c.Escribe("pla/m.cnf", ConFinales(lineas + "|-----"));
+    frmPlantilla::unica.Muestra();
+    Abre("m.cnf");
+    Espera(150);
+    Anade("otro");
+    EXPECT_TRUE(Grupos().starts_with("18: *g1") && Grupos().ends_with("g18|g1"));
+    for (int i = 0; i < 3; ++i)
+        Pregunta(true);
+    Pulsa("cmdEliminar", 3);
+    QTest::keyClick(Da<QListWidget>("List2"), Qt::Key_Down);
+    EXPECT_TRUE(Grupos().starts_with("15: g4 *g5") && Filas() == " 5d *");
+    Pulsa("cmdOK");
+    Teclea("Text2", "x", "cmdOK");
+    EXPECT_EQ(Leida("x.cnf"), ConFinales(kCabeza + queda + "|-----"));
 }
 
 }  // namespace

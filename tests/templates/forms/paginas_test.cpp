@@ -141,6 +141,9 @@ TEST_F(Trifasicos, GoingBackCancellingOrAFailedPageLosesItsPlace)
     Pulsa("cmdvolver", 3);
     EXPECT_EQ(Pagina(), "frmAnalog");
     Pulsa("cmdOK", 3);
+    frmSalvaPlan::unica.Cargado()->close();
+    EXPECT_EQ(Pagina(), "frmDigital") << "a page's window button strands those before it";
+    Pulsa("cmdOK");
     EXPECT_EQ(Pagina(), "frmSalvaPlan");
     Pulsa("cmdcancel");
     EXPECT_EQ(Pagina(), "");
