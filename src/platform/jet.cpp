@@ -22,7 +22,7 @@ namespace {
 constexpr std::string_view kFirma("\0\1\0\0Standard Jet DB\0", 20);
 constexpr guint32 kPaginaCatalogo = 2;                 // of MSysObjects, in every database
 constexpr std::size_t kMayorTabla = 64 * 1024 * 1024;  // octets, of values and of the work for them
-constexpr std::size_t kPorRanura = 64;                 // counted for a slot, whatever it gives
+constexpr std::size_t kPorRanura = 256;                // counted for a slot, whatever it gives
 constexpr unsigned kMayorColumnas = 255;
 constexpr int kClases[] = {MDB_BYTE, MDB_INT, MDB_LONGINT, MDB_FLOAT, MDB_DOUBLE, MDB_TEXT};
 

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/forms/formulario.h"
 #include "platform/textos.h"
 
@@ -29,23 +30,14 @@ ElectorFicheros::ElectorFicheros(const char* nombreCabecera, const char* nombreR
             [this] { Atrapa(FormularioDe(this), [this] { Drive1_Change(); }); });
 }
 
-QLabel* ElectorFicheros::Rotula(const char* nombre, const std::string& texto, QWidget* control)
-{
-    auto* rotulo = new QLabel(Q(texto), this);
-    rotulo->setObjectName(nombre);
-    rotulo->setBuddy(control);
-    control->setAccessibleName(Q(texto));
-    return rotulo;
-}
-
 void ElectorFicheros::Dispone(const char* nombreCabecera)
 {
     auto* camino = new QHBoxLayout;
-    camino->addWidget(Rotula("label", Rotulo(20, "Path:"), ruta_));
+    camino->addWidget(CreaRotulo(ruta_, "label", Rotulo(20, "Path:")));
     camino->addWidget(ruta_, 1);
-    cabecera->addWidget(Rotula(nombreCabecera, Rotulo(26, "Plantillas:"), File1));
+    cabecera->addWidget(CreaRotulo(File1, nombreCabecera, Rotulo(26, "Plantillas:")));
     auto* unidades = new QHBoxLayout;
-    QLabel* rotuloUnidades = Rotula("Label5", Rotulo(22, "Unidades:"), Drive1);
+    QLabel* rotuloUnidades = CreaRotulo(Drive1, "Label5", Rotulo(22, "Unidades:"));
     rotuloUnidades->setVisible(Drive1->count() > 0);
     unidades->addWidget(rotuloUnidades);
     unidades->addWidget(Drive1, 1);
@@ -58,7 +50,7 @@ void ElectorFicheros::Dispone(const char* nombreCabecera)
     ficheros->addLayout(pie);
     auto* carpetas = new QVBoxLayout;
     carpetas->setSpacing(kEntreLineas);
-    carpetas->addWidget(Rotula("Label4", Rotulo(21, "Directorios:"), Dir1));
+    carpetas->addWidget(CreaRotulo(Dir1, "Label4", Rotulo(21, "Directorios:")));
     carpetas->addWidget(Dir1, 1);
     carpetas->addLayout(unidades);
     auto* columnas = new QHBoxLayout;

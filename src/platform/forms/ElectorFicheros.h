@@ -31,7 +31,6 @@ public:
     QHBoxLayout* const pie;       ///< a form may add its own controls to them
 
 private:
-    QLabel* Rotula(const char* nombre, const std::string& texto, QWidget* control);
     void Dispone(const char* nombreCabecera);
     void Dir1_Change();
     void Drive1_Change();

@@ -16,6 +16,15 @@ QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre)
     return l;
 }
 
+QLabel* CreaRotulo(QWidget* control, const QString& nombre, const std::string& texto)
+{
+    auto* rotulo = new QLabel(Q(texto), control->parentWidget());
+    rotulo->setObjectName(nombre);
+    rotulo->setBuddy(control);
+    control->setAccessibleName(rotulo->text());
+    return rotulo;
+}
+
 QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char* defecto)
 {
     auto* b = new QPushButton(Q(Rotulo(texto, defecto)), padre);

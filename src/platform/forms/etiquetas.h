@@ -10,6 +10,9 @@ namespace veldix {
 /// A label of plain text with its name.
 QLabel* CreaEtiqueta(QWidget* padre, const QString& nombre);
 
+/// The caption of a control, beside it in the same parent, which is the control's accessible name too.
+QLabel* CreaRotulo(QWidget* control, const QString& nombre, const std::string& texto);
+
 /// A button captioned with a language line, `defecto` where that was not loaded.
 QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char* defecto);
 

@@ -30,9 +30,8 @@ frmAnalog::frmAnalog() : Formulario(escena.principal, Qt::Dialog)
     Conecta(txtIdentif, &QPlainTextEdit::textChanged, this, &frmAnalog::txtIdentif_Change);
     Conecta(txtnumAnalog, &QLineEdit::textChanged, this, &frmAnalog::txtnumAnalog_Change);
     Conecta(cmdmodelos, &QPushButton::clicked, this, &frmAnalog::cmdmodelos_Click);
-    Conecta(cmdOK, &QPushButton::clicked, this, &frmAnalog::cmdOK_Click);
-    Conecta(cmdvolver, &QPushButton::clicked, this, &frmAnalog::cmdvolver_Click);
-    Conecta(cmdcancel, &QPushButton::clicked, this, &frmAnalog::cmdcancel_Click);
+    botones_->ConectaA(this, &frmAnalog::cmdvolver_Click, &frmAnalog::cmdOK_Click,
+                       &frmAnalog::cmdcancel_Click);
     Atrapa(this, [this] { Form_Load(); });
     Centra(*this);
 }
@@ -52,25 +51,13 @@ void frmAnalog::CreaControles()
     vaSpread1 = new Rejilla(kUnidades, this);
     vaSpread1->setObjectName("vaSpread1");
     vaSpread1->setAccessibleName(windowTitle());
-    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
-    cmdOK = CreaBoton(this, "cmdOK", 38, "Continuar");
-    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
-    PonBotones(cmdOK, cmdcancel);
-}
-
-QLabel* frmAnalog::Rotula(const char* nombre, int texto, const char* defecto, QWidget* control)
-{
-    auto* rotulo = new QLabel(Q(Rotulo(texto, defecto)), this);
-    rotulo->setObjectName(nombre);
-    rotulo->setBuddy(control);
-    control->setAccessibleName(rotulo->text());
-    return rotulo;
+    botones_.emplace(this, 38, "Continuar");
 }
 
 void frmAnalog::Dispone()
 {
-    lblIdentif = Rotula("lblIdentif", 32, "Identificación:", txtIdentif);
-    lblnumAnalog = Rotula("lblnumAnalog", 33, "Número de canales analógicos:", txtnumAnalog);
+    lblIdentif = CreaRotulo(txtIdentif, "lblIdentif", Rotulo(32, "Identificación:"));
+    lblnumAnalog = CreaRotulo(txtnumAnalog, "lblnumAnalog", Rotulo(33, "Número de canales analógicos:"));
     auto* datos = new QGridLayout;
     datos->addWidget(lblIdentif, 0, 0, Qt::AlignTop);
     datos->addWidget(txtIdentif, 0, 1, 1, 3);
@@ -78,17 +65,12 @@ void frmAnalog::Dispone()
     datos->addWidget(txtnumAnalog, 1, 1);
     datos->addWidget(cmdmodelos, 1, 3);
     datos->setColumnStretch(2, 1);
-    auto* botones = new QHBoxLayout;
-    botones->addWidget(cmdvolver);
-    botones->addStretch(1);
-    botones->addWidget(cmdOK);
-    botones->addWidget(cmdcancel);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(datos);
     todo->addSpacing(6);
     todo->addWidget(vaSpread1, 1);
     todo->addSpacing(6);
-    todo->addLayout(botones);
+    todo->addLayout(botones_->linea);
 }
 
 void frmAnalog::Form_Load()

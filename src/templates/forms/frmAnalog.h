@@ -2,10 +2,12 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
+
+#include <optional>
 
 #include "platform/forms/formulario.h"
 #include "record/record_store.h"
+#include "templates/forms/BotonesPagina.h"
 #include "templates/forms/Rejilla.h"
 
 namespace veldix {
@@ -23,7 +25,6 @@ public:
 
 private:
     void CreaControles();
-    QLabel* Rotula(const char* nombre, int texto, const char* defecto, QWidget* control);
     void Dispone();
     void Form_Load();
 
@@ -43,7 +44,8 @@ private:
     QLineEdit* txtnumAnalog;
     QLabel *lblIdentif, *lblnumAnalog;
     Rejilla* vaSpread1;
-    QPushButton *cmdmodelos, *cmdOK, *cmdvolver, *cmdcancel;
+    QPushButton* cmdmodelos;
+    std::optional<BotonesPagina> botones_;
 };
 
 }  // namespace veldix

@@ -42,10 +42,7 @@ void frmDigital::CreaControles()
     txtnbgrp->setObjectName("txtnbgrp");
     cmdAñadir = CreaBoton(this, "cmdAñadir", 240, "Añadir");
     cmdEliminar = CreaBoton(this, "cmdEliminar", 241, "Eliminar");
-    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
-    cmdOK = CreaBoton(this, "cmdOK", 38, "Continuar");
-    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
-    PonBotones(cmdOK, cmdcancel);
+    botones_.emplace(this, 38, "Continuar");
 }
 
 /// A captioned frame around controls, one below the other; the first takes the room that is left.
@@ -76,15 +73,10 @@ void frmDigital::Dispone()
     columnas->addWidget(CreaMarco("Frame2", 250, "Flags digitales:", {List1}), 1);
     columnas->addWidget(CreaMarco("Frame1", 251, "group composition:", {filas_}), 1);
     columnas->addLayout(derecha);
-    auto* botones = new QHBoxLayout;
-    botones->addWidget(cmdvolver);
-    botones->addStretch(1);
-    botones->addWidget(cmdOK);
-    botones->addWidget(cmdcancel);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(columnas, 1);
     todo->addSpacing(6);
-    todo->addLayout(botones);
+    todo->addLayout(botones_->linea);
 }
 
 void frmDigital::ConectaTodo()
@@ -99,9 +91,8 @@ void frmDigital::ConectaTodo()
     ConectaEnter(txtnbgrp, this, &frmDigital::cmdAñadir_Click);
     Conecta(cmdAñadir, &QPushButton::clicked, this, &frmDigital::cmdAñadir_Click);
     Conecta(cmdEliminar, &QPushButton::clicked, this, &frmDigital::cmdEliminar_Click);
-    Conecta(cmdOK, &QPushButton::clicked, this, &frmDigital::cmdOK_Click);
-    Conecta(cmdvolver, &QPushButton::clicked, this, &frmDigital::cmdvolver_Click);
-    Conecta(cmdcancel, &QPushButton::clicked, this, &frmDigital::cmdcancel_Click);
+    botones_->ConectaA(this, &frmDigital::cmdvolver_Click, &frmDigital::cmdOK_Click,
+                       &frmDigital::cmdcancel_Click);
 }
 
 void frmDigital::Form_Load()

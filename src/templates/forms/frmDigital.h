@@ -2,12 +2,14 @@
 
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QPushButton>
+
+#include <optional>
 
 #include "platform/forms/FilasRanura.h"
 #include "platform/forms/ListaCarpetas.h"
 #include "platform/forms/formulario.h"
 #include "record/record_store.h"
+#include "templates/forms/BotonesPagina.h"
 #include "templates/grupos_digitales.h"
 
 namespace veldix {
@@ -55,7 +57,8 @@ private:
     FilasRanura* filas_;
     QLabel* txtGrupos;
     QLineEdit* txtnbgrp;
-    QPushButton *cmdAñadir, *cmdEliminar, *cmdOK, *cmdvolver, *cmdcancel;
+    QPushButton *cmdAñadir, *cmdEliminar;
+    std::optional<BotonesPagina> botones_;
 };
 
 }  // namespace veldix

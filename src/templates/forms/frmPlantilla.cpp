@@ -42,10 +42,7 @@ void frmPlantilla::CreaControles()
     Combo1->setInsertPolicy(QComboBox::NoInsert);
     Combo1->setCompleter(nullptr);
     Combo1->addItem("*.CNF");
-    Label6 = new QLabel(Q(Rotulo(23, "Tipos:")), elector_);
-    Label6->setObjectName("Label6");
-    Label6->setBuddy(Combo1);
-    Combo1->setAccessibleName(Label6->text());
+    Label6 = CreaRotulo(Combo1, "Label6", Rotulo(23, "Tipos:"));
     cmdBuscar = CreaBoton(this, "cmdBuscar", 27, "Abrir");
     cmdModif = CreaBoton(this, "cmdModif", 28, "modificar");
     cmdNueva = CreaBoton(this, "cmdNueva", 29, "nueva");

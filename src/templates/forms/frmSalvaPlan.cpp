@@ -22,25 +22,18 @@ frmSalvaPlan::frmSalvaPlan() : Formulario(escena.principal, Qt::Dialog)
     CreaControles();
     Dispone();
     Conecta(elector_->File1, &ListaFicheros::Click, this, &frmSalvaPlan::File1_Click);
-    Conecta(cmdOK, &QPushButton::clicked, this, &frmSalvaPlan::cmdOK_Click);
-    Conecta(cmdvolver, &QPushButton::clicked, this, &frmSalvaPlan::cmdvolver_Click);
-    Conecta(cmdcancel, &QPushButton::clicked, this, &frmSalvaPlan::cmdcancel_Click);
+    botones_->ConectaA(this, &frmSalvaPlan::cmdvolver_Click, &frmSalvaPlan::cmdOK_Click,
+                       &frmSalvaPlan::cmdcancel_Click);
     Atrapa(this, [this] { Form_Load(); });
 }
 
 void frmSalvaPlan::CreaControles()
 {
-    Label1 = new QLabel(Q(Rotulo(155, "Introduce el nombre del fichero sin extensión:")), this);
-    Label1->setObjectName("Label1");
     Text2 = new QLineEdit(this);
     Text2->setObjectName("Text2");
-    Text2->setAccessibleName(Label1->text());
-    Label1->setBuddy(Text2);
+    Label1 = CreaRotulo(Text2, "Label1", Rotulo(155, "Introduce el nombre del fichero sin extensión:"));
     elector_ = new ElectorFicheros("Label2", "Text1", this);
-    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
-    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
-    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
-    PonBotones(cmdOK, cmdcancel);
+    botones_.emplace(this, 24, "Aceptar");
 }
 
 void frmSalvaPlan::Dispone()
@@ -48,17 +41,12 @@ void frmSalvaPlan::Dispone()
     auto* nombre = new QHBoxLayout;
     nombre->addWidget(Label1);
     nombre->addWidget(Text2, 1);
-    auto* botones = new QHBoxLayout;
-    botones->addWidget(cmdvolver);
-    botones->addStretch(1);
-    botones->addWidget(cmdOK);
-    botones->addWidget(cmdcancel);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(nombre);
     todo->addSpacing(6);
     todo->addWidget(elector_, 1);
     todo->addSpacing(6);
-    todo->addLayout(botones);
+    todo->addLayout(botones_->linea);
 }
 
 void frmSalvaPlan::Form_Load()

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QPushButton>
+
+#include <optional>
 
 #include "platform/forms/ElectorFicheros.h"
 #include "platform/forms/formulario.h"
 #include "record/record_store.h"
+#include "templates/forms/BotonesPagina.h"
 
 namespace veldix {
 
@@ -34,7 +36,7 @@ private:
     ElectorFicheros* elector_;
     QLabel* Label1;
     QLineEdit* Text2;
-    QPushButton *cmdOK, *cmdvolver, *cmdcancel;
+    std::optional<BotonesPagina> botones_;
 };
 
 }  // namespace veldix

@@ -40,9 +40,8 @@ frmTrifasic::frmTrifasic() : Formulario(escena.principal, Qt::Dialog)
     Conecta(txtnumTrif, &QLineEdit::textChanged, this, &frmTrifasic::txtnumTrif_Change);
     for (int g = 1; g <= kGrupos; ++g)
         ConectaGrupo(g);
-    Conecta(cmdOK, &QPushButton::clicked, this, &frmTrifasic::cmdOK_Click);
-    Conecta(cmdvolver, &QPushButton::clicked, this, &frmTrifasic::cmdvolver_Click);
-    Conecta(cmdcancel, &QPushButton::clicked, this, &frmTrifasic::cmdcancel_Click);
+    botones_->ConectaA(this, &frmTrifasic::cmdvolver_Click, &frmTrifasic::cmdOK_Click,
+                       &frmTrifasic::cmdcancel_Click);
     Atrapa(this, [this] { Form_Load(); });
     Centra(*this);
 }
@@ -54,10 +53,7 @@ void frmTrifasic::CreaControles()
     txtnumTrif->setMaximumWidth(txtnumTrif->fontMetrics().averageCharWidth() * 8);
     for (int g = 1; g <= kGrupos; ++g)
         CreaGrupo(g);
-    cmdvolver = CreaBoton(this, "cmdvolver", 94, "volver");
-    cmdOK = CreaBoton(this, "cmdOK", 38, "Continuar");
-    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
-    PonBotones(cmdOK, cmdcancel);
+    botones_.emplace(this, 38, "Continuar");
 }
 
 void frmTrifasic::CreaGrupo(int g)
@@ -77,28 +73,20 @@ void frmTrifasic::CreaGrupo(int g)
     DisponeGrupo(grupo, g);
 }
 
-QLabel* frmTrifasic::Rotula(const QString& nombre, const std::string& texto, QWidget* control)
-{
-    auto* rotulo = new QLabel(Q(texto), control->parentWidget());
-    rotulo->setObjectName(nombre);
-    rotulo->setBuddy(control);
-    control->setAccessibleName(rotulo->text());
-    return rotulo;
-}
-
 /// Name and factor over the list of channels and the phases.
 void frmTrifasic::DisponeGrupo(Grupo& grupo, int g)
 {
     const QString numero = QString::number(g);
     auto* nombre = new QHBoxLayout;
-    nombre->addWidget(Rotula("Label2" + numero, Rotulo(49, "Nombre:"), grupo.nbTrif));
+    nombre->addWidget(CreaRotulo(grupo.nbTrif, "Label2" + numero, Rotulo(49, "Nombre:")));
     nombre->addWidget(grupo.nbTrif, 3);
-    nombre->addWidget(Rotula("Label3" + numero, Rotulo(40, "Factor:"), grupo.txtFactor));
+    nombre->addWidget(CreaRotulo(grupo.txtFactor, "Label3" + numero, Rotulo(40, "Factor:")));
     nombre->addWidget(grupo.txtFactor, 1);
     auto* rejilla = new QGridLayout(grupo.fmetrif);
     rejilla->addLayout(nombre, 0, 0, 1, 2);
-    rejilla->addWidget(Rotula("Label4" + numero, Rotulo(41, "Canales disponibles:"), grupo.ListTrif), 1, 0);
-    rejilla->addWidget(Rotula("Label5" + numero, Rotulo(42, "Fases del grupo:"), grupo.filas), 1, 1);
+    rejilla->addWidget(CreaRotulo(grupo.ListTrif, "Label4" + numero, Rotulo(41, "Canales disponibles:")), 1,
+                       0);
+    rejilla->addWidget(CreaRotulo(grupo.filas, "Label5" + numero, Rotulo(42, "Fases del grupo:")), 1, 1);
     rejilla->addWidget(grupo.ListTrif, 2, 0);
     rejilla->addWidget(grupo.filas, 2, 1, Qt::AlignTop);
     rejilla->setColumnStretch(0, 1);
@@ -109,7 +97,7 @@ void frmTrifasic::DisponeGrupo(Grupo& grupo, int g)
 void frmTrifasic::Dispone()
 {
     auto* cuenta = new QHBoxLayout;
-    cuenta->addWidget(Rotula("Label1", Rotulo(39, "Número de grupos trifásicos:"), txtnumTrif));
+    cuenta->addWidget(CreaRotulo(txtnumTrif, "Label1", Rotulo(39, "Número de grupos trifásicos:")));
     cuenta->addWidget(txtnumTrif);
     cuenta->addStretch(1);
     auto* ayuda =
@@ -118,17 +106,12 @@ void frmTrifasic::Dispone()
     auto* rejilla = new QGridLayout;
     for (int g = 1; g <= kGrupos; ++g)
         rejilla->addWidget(ElGrupo(g).fmetrif, (g - 1) / 2, (g - 1) % 2);
-    auto* botones = new QHBoxLayout;
-    botones->addWidget(cmdvolver);
-    botones->addStretch(1);
-    botones->addWidget(cmdOK);
-    botones->addWidget(cmdcancel);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(cuenta);
     todo->addWidget(ayuda);
     todo->addLayout(rejilla, 1);
     todo->addSpacing(6);
-    todo->addLayout(botones);
+    todo->addLayout(botones_->linea);
 }
 
 void frmTrifasic::ConectaGrupo(int g)

@@ -3,14 +3,15 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 
 #include <array>
+#include <optional>
 
 #include "platform/forms/FilasRanura.h"
 #include "platform/forms/formulario.h"
 #include "platform/ranuras.h"
 #include "record/record_store.h"
+#include "templates/forms/BotonesPagina.h"
 
 namespace veldix {
 
@@ -41,7 +42,6 @@ private:
     void DisponeGrupo(Grupo& grupo, int g);
     void Dispone();
     void ConectaGrupo(int g);
-    QLabel* Rotula(const QString& nombre, const std::string& texto, QWidget* control);
     void Form_Load();
     void MuestraGrupos();
 
@@ -63,7 +63,7 @@ private:
 
     QLineEdit* txtnumTrif;
     std::array<Grupo, 4> grupos_;
-    QPushButton *cmdOK, *cmdvolver, *cmdcancel;
+    std::optional<BotonesPagina> botones_;
 };
 
 }  // namespace veldix
