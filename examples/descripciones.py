@@ -173,6 +173,7 @@ def lee_modelo(ruta: Path) -> Modelo:
 
 def nombre_de_base(base: object) -> str:
     exige(isinstance(base, str), "'base' is not a text")
+    exige(base == base.strip(" "), f"'base': {base!r} has blanks at its ends")
     exige(base.lower().endswith(EXTENSION), f"'base': {base!r} does not end in {EXTENSION}")
     malos = re.search(r'[/\\:*?"<>|]', base)
     exige(not malos, f"'base': {base!r} has characters that a file name cannot hold")
@@ -206,6 +207,7 @@ def texto(valor: object, prohibidos: str, donde: str, vacio: bool = False) -> st
     """A text that the templates can hold."""
     exige(isinstance(valor, str), f"{donde}: {valor!r} is not a text")
     exige(vacio or bool(valor.strip()), f"{donde}: it is empty")
+    exige(valor == valor.strip(" "), f"{donde}: {valor!r} has blanks at its ends")
     for c in valor:
         exige(c.isprintable() and c not in prohibidos, f"{donde}: {valor!r} has {c!r}")
     try:

@@ -9,8 +9,8 @@ namespace veldix {
 /// folder has no "EXE".
 std::string RutaIconos(const std::string& rutaPrograma, const std::string& fichero);
 
-/// A database of the folder "Models", which stands where the program's path less its last ten characters ends;
-/// folder and file are found in any case.
+/// A database of the folder "Models", which stands where the program's path less its last ten characters
+/// ends; folder and file are found in any case.
 std::string RutaModelos(const std::string& rutaPrograma, const std::string& fichero);
 
 /// The settings folder of a program: its path less its last three characters, with "ini" added.

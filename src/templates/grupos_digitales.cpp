@@ -69,10 +69,9 @@ void GruposDigitales::GuardaGrupo(int grupo, const std::optional<std::string>& n
     for (int i = 1; i <= miembros; ++i) {
         const Ranuras::Ranura& fila = filas_(i);
         Intenta([&] { s_.GruposEdit(grupo).Miembro(kAntesDeMiembros + i) = fila.texto; });
-        Intenta([&] {
-            s_.GruposEditNum(grupo, kAntesDeMiembros + i) =
-                fila.numero.empty() ? std::int16_t{0} : Entero16Local(fila.numero);
-        });
+        std::int16_t numero = 0;  // where none, or no number, was typed; never that of another channel
+        Intenta([&] { numero = Entero16Local(fila.numero); });
+        Intenta([&] { s_.GruposEditNum(grupo, kAntesDeMiembros + i) = numero; });
     }
 }
 

@@ -33,7 +33,7 @@ FilasRanura::FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones)
     const int nombre = editable_ ? 2 : 1, numero = editable_ ? 1 : 2;
     rejilla->setColumnStretch(nombre, 1);
     for (int k = primera_; k < primera_ + cuantas; ++k) {
-        const Fila f = CreaFila(k, opciones.juego);
+        const Fila f = CreaFila(k, opciones);
         rejilla->addWidget(f.lblpunt, k - primera_, 0);
         rejilla->addWidget(f.grp, k - primera_, nombre);
         rejilla->addWidget(editable_ ? static_cast<QWidget*>(f.numero) : f.lbl, k - primera_, numero);
@@ -41,31 +41,33 @@ FilasRanura::FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones)
     }
 }
 
-FilasRanura::Fila FilasRanura::CreaFila(int k, const QString& juego)
+FilasRanura::Fila FilasRanura::CreaFila(int k, const Opciones& opciones)
 {
+    const QString sufijo = opciones.juego + QString::number(k);
     Fila f{new QLabel(this), nullptr};
-    f.lblpunt->setObjectName(QString("lblpunt%1%2").arg(juego).arg(k));
+    f.lblpunt->setObjectName("lblpunt" + sufijo);
     f.lblpunt->setFixedSize(kLadoPunto, kLadoPunto);
     f.lblpunt->setFrameShape(QFrame::Box);
     f.lblpunt->setAutoFillBackground(true);
-    CreaNumero(f, k, QString("lbl%1%2").arg(juego).arg(k));
+    CreaNumero(f, k, opciones);
     f.grp = new QLineEdit(this);
-    f.grp->setObjectName(QString("grp%1%2").arg(juego).arg(k));
+    f.grp->setObjectName("grp" + sufijo);
     f.grp->setReadOnly(!editable_);
     f.grp->setMinimumWidth(f.grp->fontMetrics().averageCharWidth() * (editable_ ? 32 : 24));
-    f.grp->setAccessibleName(QString::number(k));
+    f.grp->setAccessibleName((opciones.nombre + " %1").arg(k).trimmed());
     connect(f.grp, &QLineEdit::textChanged, this, [this, k] { Q_EMIT Change(k); });
     Vigila(f.lblpunt, k);
     Vigila(f.grp, k);
     return f;
 }
 
-void FilasRanura::CreaNumero(Fila& fila, int k, const QString& nombre)
+void FilasRanura::CreaNumero(Fila& fila, int k, const Opciones& opciones)
 {
+    const QString nombre = "lbl" + opciones.juego + QString::number(k);
     if (editable_) {
         fila.numero = new QLineEdit(this);
         fila.numero->setObjectName(nombre);
-        fila.numero->setAccessibleName(QString::number(k));
+        fila.numero->setAccessibleName((opciones.numero + " %1").arg(k));
         fila.numero->setAlignment(Qt::AlignRight);
         fila.numero->setFixedWidth(fila.numero->fontMetrics().horizontalAdvance("0000000"));
         connect(fila.numero, &QLineEdit::textChanged, this, [this, k] { Q_EMIT CambiaNumero(k); });

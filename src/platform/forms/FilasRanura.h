@@ -21,6 +21,8 @@ public:
         QString juego = {};     ///< of several sets in a form, its own number, ahead of the slot's
         int primera = 1;        ///< slot of the first row; slots keep their numbers everywhere
         bool editable = false;  ///< names and numbers may be typed; the number then stands before the name
+        QString nombre = {};    ///< captions of name and number for screen readers, the slot's number behind
+        QString numero = {};
     };
     FilasRanura(int cuantas, QWidget* padre, const Opciones& opciones);
 
@@ -50,8 +52,8 @@ private:
         QLabel* lbl = nullptr;        ///< a number that is shown
         QLineEdit* numero = nullptr;  ///< or one that may be typed
     };
-    Fila CreaFila(int k, const QString& juego);
-    void CreaNumero(Fila& fila, int k, const QString& nombre);
+    Fila CreaFila(int k, const Opciones& opciones);
+    void CreaNumero(Fila& fila, int k, const Opciones& opciones);
     void Vigila(QWidget* control, int k);
     const Fila& LaFila(int k) const { return filas_[static_cast<std::size_t>(k - primera_)]; }
 

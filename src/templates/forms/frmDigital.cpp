@@ -33,7 +33,9 @@ void frmDigital::CreaControles()
     List1 = new QListWidget(this);
     List1->setObjectName("List1");
     List1->setMinimumWidth(List1->fontMetrics().averageCharWidth() * 30);
-    filas_ = new FilasRanura(GruposDigitales::kFilas, this, {.editable = true});
+    filas_ = new FilasRanura(
+        GruposDigitales::kFilas, this,
+        {.editable = true, .nombre = Q(Rotulo(49, "Name:")), .numero = Q(Rotulo(48, "Number:"))});
     List2 = new ListaClic(this);
     List2->setObjectName("List2");
     List2->setMinimumWidth(List2->fontMetrics().averageCharWidth() * 26);
@@ -125,6 +127,7 @@ void frmDigital::MuestraLista(int elegido)
         List2->addItem(Q(nombre));
     if (elegido > 0) List2->setCurrentRow(elegido - 1);
     txtGrupos->setText(Q(FormaDelimitada(store.NumGruposDigPlan)));
+    txtGrupos->setAccessibleName(Q(Rotulo(48, "Number:")) + " " + txtGrupos->text());
 }
 
 void frmDigital::List1_DblClick()

@@ -107,13 +107,14 @@ bool frmPlantilla::EsPlantilla()
     return false;
 }
 
+/// Pages of a set-up that stands go first: the flags they were opened under change here whatever follows.
 /// The template counts as applied, and three tables of the set are gone, before the file is looked at: one
 /// that is refused by its ending or its version leaves it so.
 void frmPlantilla::cmdBuscar_Click()
 {
+    AbandonaPaginas();
     store.PlantillaModifica = store.VuelveAnalog = false;
     if (!HayFichero()) return;
-    AbandonaPaginas();
     store.PlantillaAplicada = true;
     PonPuntero(this, Puntero::Espera);
     store.CanalesPlan = {};
@@ -148,6 +149,7 @@ void frmPlantilla::Rechaza(const std::string& estacion)
 
 void frmPlantilla::cmdModif_Click()
 {
+    AbandonaPaginas();
     store.PlantillaModifica = true;
     store.VuelveAnalog = false;
     if (!HayFichero() || !EsPlantilla()) return;

@@ -148,9 +148,9 @@ TEST_F(Digitales, ANameOrANumberThatTheFileCannotCarryStays)
     Teclea("lbl2", "1x-");
     EXPECT_EQ(Texto("lbl2"), "1x-");
     Teclea("grp1", "*#?[");
-    EXPECT_EQ(Guardada(), ConFinales("DIGITALES|3| 2 |***|G1| 2 |4%*#?[$|5%x$|***|G2|01|9%c$|-----"));
+    EXPECT_EQ(Guardada(), ConFinales("DIGITALES|3| 2 |***|G1| 2 |4%*#?[$|0%x$|***|G2|01|9%c$|-----"));
     Abre("x.cnf");
-    EXPECT_EQ(Filas(), " *4*#?[ 5x") << "read back";
+    EXPECT_EQ(Filas(), " *4*#?[ 0x") << "read back";
     cajas.Espera("Error 6: Overflow", Icono::Critico);
     Da<QLineEdit>("lbl1")->setText("40000");
     EXPECT_EQ(Pagina(), "frmTrifasic");

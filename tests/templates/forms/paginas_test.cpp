@@ -148,6 +148,16 @@ TEST_F(Trifasicos, GoingBackCancellingOrAFailedPageLosesItsPlace)
     Pulsa("cmdcancel");
     EXPECT_EQ(Pagina(), "");
     EXPECT_FALSE(store.VuelveAnalog || frmTrifasic::unica.Cargado() || frmSalvaPlan::unica.Cargado());
+    frmPlantilla::unica.Muestra();
+    Pulsa("cmdNueva");
+    Pulsa("cmdOK", 3);
+    Elige("v10.CNF", "cmdOK");
+    EXPECT_EQ(Leida("v10.CNF") + Leida("v10.cnf").substr(0, 7), "ver 1.0ver 1.1");
+    Pulsa("cmdNueva");
+    frmPlantilla::unica.Muestra();  // by the menu, over the page
+    cajas.Espera(Textos(242), Icono::Critico);
+    Pulsa("cmdBuscar");
+    EXPECT_EQ(Pagina(), "frmPlantilla") << "the page's flags have changed";
 }
 
 }  // namespace
