@@ -37,15 +37,13 @@ void AvisaError(const ErrorEjecucion& e);
 /// each.
 void AvisaSeparadores(const std::string& texto);
 
-/// Runs a conversion whose type mismatch has a message of its own, a line of the language.
-template <class Cuerpo>
-void AvisaTipos(int texto, Icono icono, Cuerpo&& cuerpo);
-
 /// Sets the pointers of all windows and forms back to the default (a plot keeps that of an armed zoom); the
 /// windows fill it at start. Readers call it before a message.
 void PonPunteroNormal(std::function<void()> pon);
 void PunteroNormal();
 
+/// Runs a conversion whose type mismatch has a message of its own, a line of the language. Raises what it
+/// raises otherwise.
 template <class Cuerpo>
 void AvisaTipos(int texto, Icono icono, Cuerpo&& cuerpo)
 {

@@ -57,6 +57,10 @@ struct FilaGrupoDig {
     std::string Cuenta;  ///< 2, members of the group, a text
 };
 
+/// Columns of the edit tables of digital groups: name, count, then up to nineteen members.
+inline constexpr int kColumnasEdit = 21;
+inline constexpr int kAntesDeMiembros = 2;
+
 /// A row of `GruposEdit`: a digital group while it is edited. Its members' numbers are columns 3 to 21 of
 /// the same row of `GruposEditNum`.
 struct FilaGrupoEdit {

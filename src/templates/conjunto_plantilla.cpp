@@ -11,9 +11,6 @@ namespace veldix {
 
 namespace {
 
-constexpr int kColumnasEdit = 21;
-constexpr int kPrimerMiembro = 3;  ///< its column in the edit tables
-
 std::string SinBlancos(const std::string& texto)
 {
     return std::string(Recorta(UnaLinea(texto)));
@@ -25,8 +22,8 @@ void CopiaGrupo(RecordStore& s, int i, int& r)
     FilaGrupoEdit& grupo = s.GruposEdit(i);
     grupo.Nombre = s.GruposDigPlan(i).Nombre;
     grupo.Cuenta = s.GruposDigPlan(i).Cuenta;
-    const int fin = kPrimerMiembro + Miembros(grupo);
-    for (int columna = kPrimerMiembro; columna < fin; ++columna, ++r) {
+    const int fin = kAntesDeMiembros + Miembros(grupo);
+    for (int columna = kAntesDeMiembros + 1; columna <= fin; ++columna, ++r) {
         const FilaCanalDig& canal = s.CanalesDigPlan(r);
         s.GruposEditNum(i, columna) = Entero16Local(canal.Numero);
         grupo.Miembro(columna) = canal.Nombre;

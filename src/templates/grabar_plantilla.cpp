@@ -71,7 +71,8 @@ private:
         Linea(numero ? FormaImpresa(*numero) : std::get<std::string>(grupo.Cuenta));
         const std::int16_t cuenta = Miembros(grupo);
         for (int j = 1; j <= cuenta; ++j)
-            Linea(FormaDelimitada(s_.GruposEditNum(i, j + 2)) + "%" + grupo.Miembro(j + 2) + "$");
+            Linea(FormaDelimitada(s_.GruposEditNum(i, kAntesDeMiembros + j)) + "%" +
+                  grupo.Miembro(kAntesDeMiembros + j) + "$");
     }
 
     const RecordStore& s_;

@@ -10,12 +10,9 @@ namespace veldix {
 
 namespace {
 
-constexpr int kColumnas = 21;
-constexpr int kAntesDeMiembros = 2;  ///< columns of the edit tables ahead of the members'
-
 void CopiaNumeros(const Tabla2<std::int16_t>& de, int filaDe, Tabla2<std::int16_t>& a, int filaA)
 {
-    std::copy_n(de.fila(filaDe), kColumnas, a.fila(filaA));
+    std::copy_n(de.fila(filaDe), kColumnasEdit, a.fila(filaA));
 }
 
 }  // namespace
@@ -42,7 +39,7 @@ void GruposDigitales::PonNumGrupos(int grupos)
     s_.NumGruposDigPlan = static_cast<std::int16_t>(grupos);
     if (grupos < 1 || grupos > kMayorGrupos) return;
     Tabla1<FilaGrupoEdit> edit(grupos);
-    Tabla2<std::int16_t> numeros(grupos, kColumnas);
+    Tabla2<std::int16_t> numeros(grupos, kColumnasEdit);
     const int quedan = std::min({grupos, s_.GruposEdit.Cuantos(), s_.GruposEditNum.Filas()});
     for (int g = 1; g <= quedan; ++g) {
         edit(g) = s_.GruposEdit(g);

@@ -32,7 +32,7 @@ public:
     /// Takes the marker's colour off all slots, until the next Muestra.
     void Desmarca();
 
-    /// Name and number of a slot as they stand in their boxes.
+    /// Name and, of typed ones, number of a slot as they stand in their boxes.
     QString Texto(int k) const { return LaFila(k).grp->text(); }
     QString Numero(int k) const { return LaFila(k).numero->text(); }
 
