@@ -8,10 +8,14 @@
 #include "analysis/modDFT.h"
 #include "analysis/pagina_fasores.h"
 #include "batch/ordenes.h"
+#include "digital/eleccion.h"
+#include "digital/lugares_digital.h"
+#include "digital/pagina_digital.h"
 #include "platform/avisos.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "platform/vista.h"
+#include "record/cabecera.h"
 #include "record/disparo.h"
 #include "waves/lugares_onda.h"
 #include "waves/lugares_todo.h"
@@ -29,6 +33,7 @@ constexpr float kAnchoPantalla = 1024.0F * 15.0F, kAltoPantalla = 768.0F * 15.0F
 constexpr float kAltoOnda = kAltoPantalla - static_cast<float>(kBajoPlot);
 constexpr float kAltoTodo = kAltoPantalla - static_cast<float>(kBajoTodo);
 constexpr float kAnchoTodo = kAnchoPantalla - static_cast<float>(kLadoTodo);
+constexpr float kAltoDigital = kAltoPantalla - static_cast<float>(kBajoDigital);
 constexpr std::size_t kBandas = 8;  // on a page
 
 struct Informe {
@@ -142,6 +147,31 @@ bool ImprimeGrupos(Informe& informe, const Consola& consola)
     return true;
 }
 
+/// Each digital group of the template under the first of the chosen channels. Raises 9 for a group of more
+/// channels than a view has rows.
+void ImprimeDigitales(Informe& informe)
+{
+    ZoomCursores zoom(kMargenesDigital);
+    const FilaZoom registro = zoom.Reinicia(kAnchoPantalla, Ultima());
+    for (int g = 1; g <= store.NumGruposDig && EligeGrupo(store, g, informe.canales.front()); ++g) {
+        const PlotDigital plot{
+            kAnchoPantalla, kAltoDigital, {0, Ultima(), registro.EscalaX}, FilasDigitales(store)};
+        if (plot.filas.size() > kFilasDigital) Lanza(error::kSubindice);
+        const HojaOndas hoja = HojaDigital(store, informe.impresora, plot, DatosDe(informe, ""));
+        informe.Pagina();
+        ImprimeHoja(informe.impresora, hoja);
+    }
+}
+
+/// The header file, where the record has one.
+void ImprimeHdr(Informe& informe)
+{
+    if (store.FicheroHdr.empty()) return;
+    const std::vector<std::string> lineas = LeeCabecera(store.FicheroHdr);
+    informe.Pagina();
+    ImprimeCabecera(informe.impresora, lineas, [] { return false; });
+}
+
 /// What is to be printed, from the words of the command. False, after a message, where the record lacks it.
 bool Elige(Informe& informe, const Argumentos& a, const Consola& consola)
 {
@@ -196,6 +226,8 @@ Salida OrdenReport(const Argumentos& a, const Consola& consola)
         impresora->Anula();
         return Salida::Fallida;
     }
+    if (plantilla) ImprimeDigitales(informe);
+    ImprimeHdr(informe);
     impresora->Termina();
     return Salida::Hecha;
 }

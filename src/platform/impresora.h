@@ -9,10 +9,11 @@ namespace veldix {
 enum class Orientacion { Vertical = 1, Horizontal = 2 };
 enum class ModoColor { Monocromo = 1, Color = 2 };
 
-/// Letters of a page: size in points and weight.
+/// Letters of a page: size in points, weight, and whether all are of one width.
 struct LetraPagina {
     double puntos = 9.0;
     bool negrita = false;
+    bool fija = false;
 };
 
 /// The printer that pages are drawn on. Lengths are twips from the printable corner of the paper as it lies,
@@ -42,6 +43,9 @@ public:
     void Linea(double x1, double y1, double x2, double y2, std::uint32_t color);
     /// Segments between consecutive points, in the present line width.
     virtual void Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color) = 0;
+
+    /// Fills the rectangle between two opposite corners.
+    virtual void Caja(double x1, double y1, double x2, double y2, std::uint32_t color) = 0;
 
     /// Nothing is drawn outside the rectangle until QuitaRecorte.
     virtual void PonRecorte(double izquierda, double arriba, double derecha, double abajo) = 0;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace veldix {
 namespace {
@@ -201,6 +202,24 @@ void Rellena(const Imagen32& imagen, std::uint32_t color)
     for (int y = 0; y < imagen.alto; ++y) {
         std::fill_n(imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso, imagen.ancho, color);
     }
+}
+
+void RellenaCaja(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color)
+{
+    if (imagen.pixeles == nullptr || imagen.ancho <= 0) return;
+    if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
+    // First and last pixel of a stretch, held to one beyond the picture before they become integers.
+    const auto pixeles = [](double a, double b, int total) {
+        return std::pair{
+            static_cast<int>(std::clamp<double>(std::floor(std::min(a, b) + 0.5), 0.0, total)),
+            static_cast<int>(std::clamp<double>(std::floor(std::max(a, b) + 0.5), -1.0, total - 1))};
+    };
+    const auto [izquierda, derecha] = pixeles(x1, x2, imagen.ancho);
+    const auto [arriba, abajo] = pixeles(y1, y2, imagen.alto);
+    if (izquierda > derecha) return;
+    for (int y = arriba; y <= abajo; ++y)
+        std::fill_n(imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso + izquierda,
+                    derecha - izquierda + 1, color);
 }
 
 void TrazaLinea(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color,

@@ -17,6 +17,11 @@ inline constexpr int kGruesoMaximo = 64;
 
 void Rellena(const Imagen32& imagen, std::uint32_t color);
 
+/// Fills the rectangle between two opposite corners, the pixels of both included, in device pixels; pixel n
+/// holds [n - 0.5, n + 0.5). What lies outside the picture is left out; an infinite or NaN corner fills
+/// nothing.
+void RellenaCaja(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color);
+
 /// Draws from (x1, y1) to (x2, y2), both ends included, in device pixels; pixel n holds [n - 0.5, n + 0.5).
 /// The pen is a square of `grueso` pixels (held to 1..kGruesoMaximo) centred on the line, the odd pixel to
 /// the right and below. Any coordinates are allowed; a line with an infinite or NaN end draws nothing.

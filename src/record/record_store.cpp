@@ -48,6 +48,7 @@ void CierraRegistro(RecordStore& s)
     static_cast<GrupoPlantilla&>(s) = {};
     static_cast<GrupoBanderas&>(s) = {};
     static_cast<GrupoFasores&>(s) = {};
+    static_cast<GrupoDigitales&>(s) = {};
     static_cast<GrupoVistas&>(s) = {};
     for (std::string* texto :
          {&s.FechaInicio, &s.FechaDisparo, &s.EstacionPlan, &s.VersionPlan, &s.AnioCfg, &s.RevisionCfg})

@@ -189,6 +189,19 @@ struct GrupoFasores {
     bool FasesCerrando = false, SecuenciasCerrando = false;  ///< of both, the one that has gone
 };
 
+/// What a chooser of digital channels hands over to their view.
+struct GrupoDigitales {
+    std::int16_t CanalRef = 0;     ///< row of `Canales` and column of `Muestras` of the analog reference
+    std::int16_t NumDigVista = 0;  ///< digital channels to show
+    std::int16_t ModoDigital = 0;  ///< 1 a group, 2 by hand
+    /// Rows of `CanalesDig` of the group to show; both 0 by hand.
+    std::int16_t DigPrimera = 0, DigUltima = 0;
+    std::string NombreGrupoDig;
+    /// 1 to 98: column 1 of row 1 is the last row in use by hand, 0 for a group; channels stand from row 2
+    /// on.
+    Tabla1<FilaCanalDig> DigElegidos;
+};
+
 /// Bookkeeping of the views.
 struct GrupoVistas {
     Tabla1<frmVerOndas*> VentanaOnda;  ///< the open window of each slot, or null; its unload clears it
@@ -212,6 +225,7 @@ struct RecordStore : GrupoEntorno,
                      GrupoPlantilla,
                      GrupoBanderas,
                      GrupoFasores,
+                     GrupoDigitales,
                      GrupoVistas {};
 
 /// The program's single instance. Readers fill the store that they are given.

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "waves/pagina_ondas.h"
+#include "waves/hoja_ondas.h"
 
 namespace veldix {
 

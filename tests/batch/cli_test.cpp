@@ -210,6 +210,8 @@ protected:
             if (o.tipo == Tipo::Pagina) ++paginas;
             if (o.texto == "PHASES" || o.texto == "SEQUENCES") s += o.texto + " ";
             if (o.texto == "Analog channels ") s += "waves ";
+            if (o.texto == "Digital channels ") s += "digital ";
+            if (o.texto == "VELDIX") s += "header ";
         }
         const bool acabado = !ops.empty() && ops.back().tipo == Tipo::Termina;
         return s + std::to_string(paginas) + (acabado ? " ended" : "");
@@ -225,7 +227,7 @@ TEST_F(Informe, PagesAreMissingOrInAnotherOrder)
     EXPECT_EQ(Corre("--lang en report ej/falta_1997.dat ej/falta.cnf d/o.pdf"), "");
     EXPECT_EQ(Titulos(),
               "waves waves waves waves waves waves waves waves waves "
-              "PHASES SEQUENCES PHASES SEQUENCES 13 ended");
+              "PHASES SEQUENCES PHASES SEQUENCES digital digital digital digital header 19 ended");
     EXPECT_TRUE(pdf.ends_with("d/o.pdf"));
     const auto de = [this](const std::string& texto) {
         return std::ranges::any_of(ops,
@@ -235,7 +237,7 @@ TEST_F(Informe, PagesAreMissingOrInAnotherOrder)
     EXPECT_FALSE(de(" max 0")) << "no side chosen";
     EXPECT_EQ(Corre("--lang=en report ej/falta_1991.dat d/o.pdf --channels 2,5-6 --sample=385 --monochrome"),
               "");
-    EXPECT_EQ(Titulos(), "waves waves waves waves 4 ended");
+    EXPECT_EQ(Titulos(), "waves waves waves waves header 6 ended");
     EXPECT_TRUE(de("Sample no. 385") && !de("Tensión fase A"));
     EXPECT_TRUE(std::ranges::none_of(ops, [](const auto& o) { return o.color != 0; }));
 }

@@ -10,9 +10,9 @@ namespace veldix::prueba {
 
 /// One thing done to a printer.
 struct OperacionPagina {
-    enum class Tipo { Texto, Poligonal, Recorte, SinRecorte, Pagina, Termina, Anula };
+    enum class Tipo { Texto, Poligonal, Caja, Recorte, SinRecorte, Pagina, Termina, Anula };
     Tipo tipo;
-    std::vector<double> xs, ys;  ///< of a text one place; of a clip two corners
+    std::vector<double> xs, ys;  ///< of a text one place; of a box or a clip two corners
     std::string texto;
     std::uint32_t color = 0;
     int grosor = 0;
@@ -44,6 +44,10 @@ public:
                        color,
                        Grosor,
                        Letra});
+    }
+    void Caja(double x1, double y1, double x2, double y2, std::uint32_t color) override
+    {
+        ops.push_back({OperacionPagina::Tipo::Caja, {x1, x2}, {y1, y2}, "", color, Grosor, Letra});
     }
     void PonRecorte(double x1, double y1, double x2, double y2) override
     {

@@ -40,12 +40,24 @@ void EtiquetasCorridas::Pon(int k, const std::string& texto)
     Etiqueta(k)->setText(Q(texto));
 }
 
+void EtiquetasCorridas::Guarda(int k)
+{
+    nombres_[Sitio(k)] = U(Etiqueta(k)->text());
+    Etiqueta(k)->setToolTip(Etiqueta(k)->text());
+}
+
+void EtiquetasCorridas::PonEntero(int k, const std::string& texto)
+{
+    Pon(k, texto);
+    Guarda(k);
+    barra_->setMaximum(std::max(barra_->maximum(), static_cast<int>(NumCaracteres(texto))));
+}
+
 void EtiquetasCorridas::Recoge(int hasta, bool soloCrece)
 {
     int largo = soloCrece ? barra_->maximum() : 0;
     for (int k = 1; k <= hasta; ++k) {
-        nombres_[Sitio(k)] = U(Etiqueta(k)->text());
-        Etiqueta(k)->setToolTip(Etiqueta(k)->text());
+        Guarda(k);
         largo = std::max(largo, static_cast<int>(NumCaracteres(Nombre(k))));
     }
     const QSignalBlocker calla(barra_);  // the labels show their texts whole

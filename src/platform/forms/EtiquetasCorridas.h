@@ -17,6 +17,8 @@ public:
 
     /// Shows a text from its first character on. Raises 9.
     void Pon(int k, const std::string& texto);
+    /// The same, and keeps it as the label's full text; the bar's range only grows. Raises 9.
+    void PonEntero(int k, const std::string& texto);
     /// Keeps the texts that labels 1 to `hasta` now show as their full ones. The bar's range becomes the
     /// longest, in characters, or where it only grows, the longest so far. Raises 9.
     void Recoge(int hasta, bool soloCrece);
@@ -43,6 +45,7 @@ protected:
 
 private:
     std::size_t Sitio(int k) const;
+    void Guarda(int k);
 
     std::vector<QLabel*> etiquetas_;
     std::vector<std::string> nombres_;

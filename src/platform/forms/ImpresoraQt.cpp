@@ -1,5 +1,6 @@
 #include "platform/forms/ImpresoraQt.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPagedPaintDevice>
@@ -65,7 +66,7 @@ double ImpresoraQt::Alto() const
 
 QFont ImpresoraQt::Fuente() const
 {
-    QFont f = QGuiApplication::font();
+    QFont f = Letra.fija ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QGuiApplication::font();
     f.setPixelSize(std::max(1, qRound(Letra.puntos * kTwipsPorPunto)));  // a pixel of the page is a twip
     f.setBold(Letra.negrita);
     return f;
@@ -103,6 +104,11 @@ void ImpresoraQt::Poligonal(std::span<const double> xs, std::span<const double> 
     pluma.setJoinStyle(Qt::RoundJoin);
     Pintor().setPen(pluma);
     Pintor().drawPolyline(puntos);
+}
+
+void ImpresoraQt::Caja(double x1, double y1, double x2, double y2, std::uint32_t color)
+{
+    Pintor().fillRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), QColor::fromRgb(color));
 }
 
 void ImpresoraQt::Escribe(double x, double y, const std::string& texto)

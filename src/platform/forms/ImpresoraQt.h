@@ -26,6 +26,7 @@ public:
     double AnchoTexto(const std::string& texto) const override;
     double AltoTexto() const override;
     void Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color) override;
+    void Caja(double x1, double y1, double x2, double y2, std::uint32_t color) override;
     void PonRecorte(double izquierda, double arriba, double derecha, double abajo) override;
     void QuitaRecorte() override;
     void PaginaNueva() override;

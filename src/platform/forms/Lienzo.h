@@ -11,9 +11,10 @@
 
 namespace veldix {
 
-/// One drawing call as it was made, in twips. A line holds two points, a clearing none.
+/// One drawing call as it was made, in twips. A line holds two points, a box two corners,
+/// a clearing none.
 struct OperacionLienzo {
-    enum class Tipo { Limpia, Linea, Poligonal };
+    enum class Tipo { Limpia, Linea, Poligonal, Caja };
     Tipo tipo = Tipo::Limpia;
     std::vector<double> xs;
     std::vector<double> ys;
@@ -48,6 +49,9 @@ public:
     void Limpia(QRgb fondo);
     void Linea(double x1, double y1, double x2, double y2, QRgb color);
     void Poligonal(std::span<const double> xs, std::span<const double> ys, QRgb color);
+
+    /// A filled box between two opposite corners, both included.
+    void Caja(double x1, double y1, double x2, double y2, QRgb color);
 
     double Ancho() const { return ATwips(width()); }
     double Alto() const { return ATwips(height()); }

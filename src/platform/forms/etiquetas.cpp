@@ -45,6 +45,15 @@ void PonTexto(QLabel* etiqueta, const QString& texto)
     etiqueta->setText(texto);
 }
 
+void PonFondo(QWidget* control, QRgb color)
+{
+    QPalette p = control->palette();
+    p.setColor(QPalette::Window, QColor(color));
+    p.setColor(QPalette::WindowText, Qt::black);
+    control->setPalette(p);
+    control->setAutoFillBackground(true);
+}
+
 void Pon(QWidget* control, const Lugar& lugar)
 {
     control->setGeometry(APixeles(lugar.izquierda), APixeles(lugar.arriba), APixeles(lugar.ancho),

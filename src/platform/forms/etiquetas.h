@@ -20,6 +20,9 @@ QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char
 /// They do not widen again before the label gets its font anew, so that they stand still while a bar moves.
 void PonTexto(QLabel* etiqueta, const QString& texto);
 
+/// Fills a control's background with a light colour, its text black.
+void PonFondo(QWidget* control, QRgb color);
+
 /// Puts a control at its place.
 void Pon(QWidget* control, const Lugar& lugar);
 

@@ -109,6 +109,13 @@ void Vista::Coloca(double izquierda, double arriba, double ancho, double alto)
     ventana_->setGeometry(APixeles(izquierda), APixeles(arriba), APixeles(ancho), APixeles(alto));
 }
 
+void Vista::Presenta(QWidget* foco)
+{
+    OcultaMenu();
+    ventana_->showNormal();
+    foco->setFocus();
+}
+
 double Vista::AnchoVentana() const
 {
     return ATwips(ventana_->width());

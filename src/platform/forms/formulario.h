@@ -72,6 +72,9 @@ public:
     /// The frame around the view; sizes and places of views are the frame's, in twips.
     QMdiSubWindow& Ventana() { return *ventana_; }
     void Coloca(double izquierda, double arriba, double ancho, double alto);
+    /// Shows the view, which was loaded hidden, in place of the menu: beside that maximised window its own
+    /// would be maximised too. `foco` takes the keys.
+    void Presenta(QWidget* foco);
     double AnchoVentana() const;
     double AltoVentana() const;
     /// Size inside the frame, pixels; reckoned from the frame's while that has never been shown.

@@ -2,6 +2,7 @@
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 #include <utility>
 
@@ -36,15 +37,9 @@ public:
     }
 };
 
-std::optional<PeticionImpresion> MuestraDialogo(QSize tamano)
+/// The program's printer as it is set now.
+PeticionImpresion PeticionDe(QPrinter& impresora)
 {
-    QPrinter& impresora = ImpresoraDelPrograma();
-    frm_centrar centro(tamano);
-    QPrintDialog dialogo(&impresora, &centro);
-    dialogo.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    dialogo.adjustSize();
-    dialogo.move(centro.mapToGlobal(QPoint(0, 0)));
-    if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
     PeticionImpresion p;
     p.copias = std::max(1, impresora.copyCount());
     impresora.setCopyCount(1);  // the program draws every copy itself
@@ -55,11 +50,32 @@ std::optional<PeticionImpresion> MuestraDialogo(QSize tamano)
     return p;
 }
 
-}  // namespace
-
-void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo)
+std::optional<PeticionImpresion> MuestraDialogo(QSize tamano)
 {
-    const auto peticion = g_responde ? g_responde() : MuestraDialogo(tamano);
+    QPrinter& impresora = ImpresoraDelPrograma();
+    frm_centrar centro(tamano);
+    QPrintDialog dialogo(&impresora, &centro);
+    dialogo.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialogo.adjustSize();
+    dialogo.move(centro.mapToGlobal(QPoint(0, 0)));
+    if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+    return PeticionDe(impresora);
+}
+
+std::optional<PeticionImpresion> SinDialogo(QSize tamano)
+{
+    const QPrinterInfo predeterminada = QPrinterInfo::defaultPrinter();
+    if (predeterminada.isNull()) return MuestraDialogo(tamano);
+    QPrinter& impresora = ImpresoraDelPrograma();
+    impresora.setOutputFileName(QString());
+    impresora.setPrinterName(predeterminada.printerName());
+    impresora.setCopyCount(1);
+    return PeticionDe(impresora);
+}
+
+void Imprime(const std::optional<PeticionImpresion>& peticion,
+             const std::function<void(const PeticionImpresion&)>& trabajo)
+{
     if (!peticion) return;
     try {
         trabajo(*peticion);
@@ -70,6 +86,18 @@ void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion
         PunteroNormal();
         AvisaError(e);
     }
+}
+
+}  // namespace
+
+void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo)
+{
+    Imprime(g_responde ? g_responde() : MuestraDialogo(tamano), trabajo);
+}
+
+void ConImpresoraPredeterminada(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo)
+{
+    Imprime(g_responde ? g_responde() : SinDialogo(tamano), trabajo);
 }
 
 void PonDialogoImpresion(std::function<std::optional<PeticionImpresion>()> responde)

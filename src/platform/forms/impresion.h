@@ -22,6 +22,10 @@ struct PeticionImpresion {
 /// document and shows the common box; the caller stands.
 void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo);
 
+/// The same on the system's default printer, without a dialog where there is one. It never goes to the file
+/// that an earlier print was sent to.
+void ConImpresoraPredeterminada(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo);
+
 /// For tests: answers in place of the dialog; an empty function brings it back.
 void PonDialogoImpresion(std::function<std::optional<PeticionImpresion>()> responde);
 

@@ -65,6 +65,8 @@ private:
     void mnuOndas_Click();
     void mnuCanalog_Click();
     void mnuCompanalog_Click();
+    void mnuDigGrupos_Click();
+    void mnuCompdig_Click();
     void mnuFasores_Click();
     void mnuInform_Click();
     void mnuDigital_Click();

@@ -1,11 +1,14 @@
 #include "analysis/forms/frmFasecuencias.h"
 #include "analysis/modDFT.h"
+#include "digital/forms/frmElecdig.h"
+#include "digital/forms/frmGrid.h"
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/programas.h"
 #include "platform/perfil.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
+#include "record/forms/frmAjustes.h"
 #include "shell/ajustes.h"
 #include "shell/forms/FrmMenu.h"
 #include "shell/forms/frmAbrirComtrade.h"
@@ -34,9 +37,11 @@ void FrmMenu::DescargaSelectores()
     frmNewOndas::unica.Descarga();
     frmNewCompanalog::unica.Descarga();
     frmFasecuencias::unica.Descarga();
+    frmElecdig::unica.Descarga();
+    frmGrid::unica.Descarga();
 }
 
-/// Entries whose window is not part of the program yet have no handler.
+/// Entries of the tools menu whose window is not part of the program yet have no handler.
 void FrmMenu::ConectaMenus()
 {
     const auto orden = [this](const char* nombre, auto manejador) {
@@ -52,6 +57,8 @@ void FrmMenu::ConectaMenus()
     orden("mnuSalir", &FrmMenu::mnuSalir_Click);
     orden("mnuCanalog", &FrmMenu::mnuCanalog_Click);
     orden("mnuCompanalog", &FrmMenu::mnuCompanalog_Click);
+    orden("mnuDigGrupos", &FrmMenu::mnuDigGrupos_Click);
+    orden("mnuCompdig", &FrmMenu::mnuCompdig_Click);
     orden("mnuFasores", &FrmMenu::mnuFasores_Click);
     orden("mnuInform", &FrmMenu::mnuInform_Click);
     Conecta(mnuOndas, &QMenu::aboutToShow, this, &FrmMenu::mnuOndas_Click);
@@ -164,6 +171,20 @@ void FrmMenu::mnuDigital_Click()
     }
 }
 
+void FrmMenu::mnuDigGrupos_Click()
+{
+    frmElecdig::unica.Muestra();
+}
+
+/// The channels are looked through for changes of state meanwhile.
+void FrmMenu::mnuCompdig_Click()
+{
+    PonPunteros(this, Puntero::Espera);
+    frmGrid::unica.CargaNueva();
+    if (frmGrid* form = frmGrid::unica.Cargado()) form->Presenta(form->Foco());
+    PonPunteros(this, Puntero::Normal);
+}
+
 void FrmMenu::mnuFasores_Click()
 {
     if (!store.RegistroAbierto) {
@@ -197,6 +218,8 @@ void FrmMenu::mnuInform_Click()
         Avisa(Textos(91), Icono::Critico);
     else if (store.FicheroHdr.empty())
         Avisa(Textos(161), Icono::Critico);
+    else
+        frmAjustes::Abre();
 }
 
 void FrmMenu::mnuanalisis_Click()

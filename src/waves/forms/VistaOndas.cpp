@@ -23,7 +23,7 @@ VistaOndas::VistaOndas(const Papel& papel) : Vista(papel.etiqueta), papel_(papel
     linea2_ = plot_->CreaLinea(kCursorCian, papel_.linea2);
     HScroll1 = new BarraCursor("HScroll1", "Cursor 1", this);
     HScroll2 = new BarraCursor("HScroll2", "Cursor 2", this);
-    lblms = CreaEtiqueta(this, "lblms");
+    lblms = CreaEtiqueta(this, papel_.tiempo);
     CreaBotones();
     lbl_PS = CreaEtiqueta(this, "lbl_PS");
     Conexiones();

@@ -28,7 +28,7 @@ protected:
     struct Papel {
         const char* nombre;
         int etiqueta;
-        const char *plot, *linea1, *linea2;
+        const char *plot, *linea1, *linea2, *tiempo;
         Icono ultimoNivel, primerNivel;
     };
     explicit VistaOndas(const Papel& papel);

@@ -143,11 +143,7 @@ void frmNewOndas::cmdtodo_Click()
     EmpiezaApertura(5);
     referencia_->Aplica();
     frmTodoanalog::unica.CargaNueva();
-    if (frmTodoanalog* vista = frmTodoanalog::unica.Cargado()) {
-        OcultaMenu();
-        vista->Ventana().showNormal();
-        vista->Plot()->setFocus();
-    }
+    if (frmTodoanalog* vista = frmTodoanalog::unica.Cargado()) vista->Presenta(vista->Plot());
     AcabaApertura();
 }
 

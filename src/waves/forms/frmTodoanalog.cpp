@@ -13,21 +13,12 @@ namespace {
 
 constexpr int kEtiquetas = 16;  // two a channel
 
-void PonFondo(QLabel* etiqueta, QRgb color)
-{
-    QPalette p = etiqueta->palette();
-    p.setColor(QPalette::Window, QColor(color));
-    p.setColor(QPalette::WindowText, Qt::black);
-    etiqueta->setPalette(p);
-    etiqueta->setAutoFillBackground(true);
-}
-
 }  // namespace
 
 Portador<frmTodoanalog> frmTodoanalog::unica;
 
 frmTodoanalog::frmTodoanalog()
-    : VistaOndas({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", Icono::Critico,
+    : VistaOndas({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", "lblms", Icono::Critico,
                   Icono::Ninguno}),
       zoom_(kMargenesBandas)
 {

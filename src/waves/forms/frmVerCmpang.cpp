@@ -19,14 +19,6 @@ constexpr int kLineas = 3;                                // of a name and its v
 
 constexpr int kFranja = 5;  // pixels of a curve's colour at its label's edge
 
-void PonFondo(QWidget* control, std::uint32_t color)
-{
-    QPalette p = control->palette();
-    p.setColor(QPalette::Window, QColor::fromRgb(color));
-    control->setPalette(p);
-    control->setAutoFillBackground(true);
-}
-
 /// A button whose face is the grey picture, for a caption alone; without the picture a plain one.
 void PonGris(QPushButton* boton, const QString& texto)
 {
@@ -43,8 +35,8 @@ void PonGris(QPushButton* boton, const QString& texto)
 }  // namespace
 
 frmVerCmpang::frmVerCmpang()
-    : VistaCaja({"frmVerCmpang", etiqueta::kVerCmpang, "Picture1", "Lineamar", "Linecian", Icono::Informacion,
-                 Icono::Informacion},
+    : VistaCaja({"frmVerCmpang", etiqueta::kVerCmpang, "Picture1", "Lineamar", "Linecian", "lblms",
+                 Icono::Informacion, Icono::Informacion},
                 Icono::Informacion)
 {
     CreaControles();

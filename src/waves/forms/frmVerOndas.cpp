@@ -8,8 +8,8 @@
 namespace veldix {
 
 frmVerOndas::frmVerOndas(int canal)
-    : VistaCaja({"frmVerOndas", etiqueta::kVerOndas, "picbox", "Lineizq", "Lineder", Icono::Informacion,
-                 Icono::Informacion},
+    : VistaCaja({"frmVerOndas", etiqueta::kVerOndas, "picbox", "Lineizq", "Lineder", "lblms",
+                 Icono::Informacion, Icono::Informacion},
                 Icono::Critico),
       Canal_(canal)
 {

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "record/record_store.h"
+
+namespace veldix {
+
+/// 1 where a digital channel changes state between its first and its last sample but one, which is the last
+/// that is looked at. A channel that the record lacks, while a record and a template are in force, is told
+/// and counts as 0; otherwise raises 9.
+std::int16_t CambiaEstado(RecordStore& s, int canal);
+
+/// What `frm19` is to show of group `g`, from 1, under the analog reference `canalRef`. Does nothing and
+/// answers false beyond group 16. Raises 9 for a group that the template lacks, 13 for a count that is no
+/// number.
+bool EligeGrupo(RecordStore& s, int g, int canalRef);
+
+/// The digital channels of the template while they are chosen one by one. Groups count from 1 to 16, their
+/// channels from 1 to 19.
+class EleccionManual {
+public:
+    static constexpr int kGrupos = 16, kCanales = 19, kMayor = 19;
+
+    /// Background of a channel's label.
+    enum class Fondo { Ventana, Cambia, Elegido };
+
+    /// Takes the groups of the working set and looks for channels that change state. Over sixteen groups
+    /// none is taken. Raises 9 for a group of over nineteen channels, 13 for a count or a channel that is no
+    /// number.
+    explicit EleccionManual(RecordStore& s);
+
+    /// Name of a group, empty where there is none; its count of channels.
+    const std::string& Grupo(int k) const { return grupos_[Sitio(k)].nombre; }
+    bool Existe(int k) const { return grupos_[Sitio(k)].existe; }
+    int Cuenta(int k) const { return grupos_[Sitio(k)].SelGrupo(0); }
+    const std::string& Canal(int k, int j) const;
+    Fondo FondoDe(int k, int j) const;
+    int NumElegidos() const { return NumElegidos_; }
+
+    /// A click on a channel chooses it; one that is chosen stays so. False where nineteen are chosen.
+    bool Click(int k, int j);
+    /// A double click releases it. False where it was not chosen.
+    bool DblClick(int k, int j);
+
+    /// How many are chosen, counted from the labels' own states.
+    int CuentaElegidos() const;
+    /// Hands the choice over to the view, in the order of the groups.
+    void Entrega() const;
+
+private:
+    struct Grupo16 {
+        bool existe = false;
+        std::string nombre;
+        /// 0 to count + 1: element 0 the count, element j 1 where channel j is chosen; 0 to 0 for no group.
+        Tabla1<std::int16_t> SelGrupo{0, 0};
+        std::vector<std::string> nombres;
+        std::vector<Fondo> ColorEtiqueta;  ///< what a channel, from 0, goes back to when it is released
+    };
+    static std::size_t Sitio(int k);
+    int LlenaGrupo(int k, int primera);
+
+    RecordStore& s_;
+    std::array<Grupo16, kGrupos> grupos_;
+    std::int16_t NumElegidos_ = 0;
+};
+
+}  // namespace veldix

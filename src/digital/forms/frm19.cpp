@@ -1,0 +1,252 @@
+#include "digital/forms/frm19.h"
+
+#include "digital/pagina_digital.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
+#include "platform/numeros.h"
+#include "platform/textos.h"
+#include "record/record_store.h"
+#include "waves/colores.h"
+#include "waves/plot.h"
+
+namespace veldix {
+
+namespace {
+
+/// Places of the three texts of the reference among those that its bar scrolls.
+constexpr int kLblanalog = 1, kLblamar = 2, kLblcian = 3;
+constexpr int kPantallaEstrecha = 800;  // pixels
+
+std::string ValorReferencia(int muestra)
+{
+    return TextoValor(store.Muestras(muestra, store.CanalRef), store.Canales(store.CanalRef).Unidades);
+}
+
+}  // namespace
+
+Portador<frm19> frm19::unica;
+
+frm19::frm19()
+    : VistaOndas({"frm19", etiqueta::k19, "Picture1", "lnizq", "lnder", "lbltiempo", Icono::Informacion,
+                  Icono::Informacion})
+{
+    CreaControles();
+    Conecta(analogicas_, &EtiquetasCorridas::Change, this, &frm19::HScroll_Analog_Change);
+    Conecta(analogicas_, &EtiquetasCorridas::Click, this, &frm19::analogicas_Click);
+    Conecta(label, &EtiquetasCorridas::Change, this, &frm19::HScroll_Nombres_Change);
+    Conecta(label, &EtiquetasCorridas::Click, this, &frm19::label_Click);
+    Atrapa(this, [this] { Form_Load(); });
+}
+
+void frm19::CreaControles()
+{
+    HScroll_Analog = new BarraCursor("HScroll_Analog", Q(Rotulo(74, "Canales Analógicos ")), this);
+    HScroll_Nombres = new BarraCursor("HScroll_Nombres", Q(Rotulo(47, "Canales Digitales ")), this);
+    for (BarraCursor* barra : {HScroll_Analog, HScroll_Nombres}) {
+        barra->setSingleStep(1);
+        barra->setPageStep(4);
+    }
+    ventanilla_ = new QWidget(this);
+    plot_->setParent(ventanilla_);
+    std::vector<QLabel*> nombres, analogicas;
+    for (int n = 1; n <= kFilasDigital; ++n)
+        nombres.push_back(CreaEtiqueta(this, QString("label%1").arg(n)));
+    for (const char* nombre : {"lblanalog", "lblamar", "lblcian"})
+        analogicas.push_back(CreaEtiqueta(this, nombre));
+    PonFondo(analogicas[kLblamar - 1], kCursorAmarillo);
+    PonFondo(analogicas[kLblcian - 1], kCursorCian);
+    label = new EtiquetasCorridas(nombres, HScroll_Nombres, this);
+    analogicas_ = new EtiquetasCorridas(analogicas, HScroll_Analog, this);
+    lblizq = CreaEtiqueta(this, "lblizq");
+    lblder = CreaEtiqueta(this, "lblder");
+}
+
+void frm19::Form_Load()
+{
+    PonGasolinoOndas(20);
+    setWindowTitle(Q(Rotulo(47, "Canales Digitales ") + (EnGrupo(store) ? store.NombreGrupoDig : "")));
+    plot_->setAccessibleName(windowTitle());
+    PreparaBarras();
+    ultima_ = static_cast<std::int16_t>(store.MuestrasDig.UBound(1));
+    filas_ = FilasDigitales(store);
+    const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
+    Coloca(0.0, 0.0, vista.ancho, vista.alto);
+    Rehace();
+    PonGasolinoOndas(100);
+    Activa = true;
+}
+
+/// A window too small for a plot keeps its controls where they are.
+void frm19::ColocaControles()
+{
+    TamanoDigital t;
+    t.ancho = AnchoVentana();
+    t.alto = AltoVentana();
+    t.anchoInterior = ATwips(Interior().width());
+    t.bajo = AltoBajoPlot(kBajoDigital);
+    t.ancha = AnchoPixeles({store.AnchoPantalla, store.AltoPantalla}) > kPantallaEstrecha;
+    t.revision97 = store.RevisionCfg == "1997";
+    const auto l = ColocaDigital(t, Medidas(t.bajo - 2.0 * kHueco));
+    if (!l) return;
+    const double corte = l->label[0].Derecha();
+    {
+        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
+        Pon(ventanilla_, {corte, 0.0, l->Picture1.Derecha() - corte, l->Picture1.alto});
+        Pon(plot_, {l->Picture1.izquierda - corte, 0.0, l->Picture1.ancho, l->Picture1.alto});
+    }
+    for (int n = 1; n <= kFilasDigital; ++n)
+        Pon(label->Etiqueta(n), l->label[static_cast<std::size_t>(n - 1)]);
+    const std::pair<QWidget*, const Lugar*> lugares[] = {{analogicas_->Etiqueta(kLblanalog), &l->lblanalog},
+                                                         {analogicas_->Etiqueta(kLblamar), &l->lblamar},
+                                                         {analogicas_->Etiqueta(kLblcian), &l->lblcian},
+                                                         {HScroll_Analog, &l->HScroll_Analog},
+                                                         {HScroll_Nombres, &l->HScroll_Nombres},
+                                                         {HScroll1, &l->HScroll1},
+                                                         {HScroll2, &l->HScroll2},
+                                                         {lblizq, &l->lblizq},
+                                                         {lblder, &l->lblder},
+                                                         {lblms, &l->lbltiempo},
+                                                         {cmdadel, &l->cmdadel},
+                                                         {cmdatras, &l->cmdatras},
+                                                         {pctimpresora, &l->pctimpresora}};
+    for (const auto& [control, lugar] : lugares)
+        Pon(control, *lugar);
+    for (QLabel* etiqueta : {lblizq, lblder, lblms})
+        etiqueta->setFont(font());
+    PonBotonZoom(l->cmdzoom);
+    PonReferencia(l->lbl_PS);
+}
+
+void frm19::LlenaEtiquetas()
+{
+    const std::string valor = ValorReferencia(1);
+    analogicas_->Pon(kLblanalog, EtiquetaCanal(store, store.CanalRef));
+    analogicas_->Pon(kLblamar, valor);
+    analogicas_->Pon(kLblcian, valor);
+    analogicas_->Recoge(analogicas_->Cuantas(), false);
+    lblms->setText("0 ms");
+    lblizq->setText("1");
+    lblder->setText("1");
+    for (std::size_t n = 0; n < filas_.size(); ++n)
+        label->Pon(static_cast<int>(n) + 1, filas_[n].nombre);
+    label->Recoge(label->Cuantas(), false);
+}
+
+/// The whole record, with both cursors on its first sample. Until a zoom its first sample is drawn too.
+void frm19::Rehace()
+{
+    ColocaControles();
+    const FilaZoom registro = zoom_.Reinicia(static_cast<float>(plot_->Ancho()), ultima_);
+    zoom_.ZoomPendiente = true;  // until a zoom is stored
+    tramo_ = {0, ultima_, registro.EscalaX};
+    LlenaEtiquetas();
+    PonBarras(1, 1, ultima_);
+    Cursor1 = Cursor2 = 1.0F;
+    PonGasolinoOndas(50);
+    Repinta();
+    PonGasolinoOndas(70);
+    for (LineaSobre* linea : {linea1_, linea2_})
+        PonLinea(linea, XCursor(1.0F));
+}
+
+void frm19::PintaEjes()
+{
+    const double w = plot_->Ancho(), h = plot_->Alto(), fila = AltoFila(h);
+    const QRgb color = ColorPaleta(kColorEjes);
+    plot_->Limpia(kFondoPlot);
+    plot_->Linea(kMargenDigital, kEjeDigital, kMargenDigital, h - kEjeDigital, color);
+    plot_->Linea(kMargenDigital, kCeroAnalog, w - kDerechaDigital, kCeroAnalog, color);
+    for (int n = 1; n <= store.NumDigVista; ++n)
+        plot_->Linea(kMargenDigital, BaseFila(n, fila), w - kDerechaDigital, BaseFila(n, fila), color);
+}
+
+void frm19::PintaFilas()
+{
+    const double fila = AltoFila(plot_->Alto());
+    const QRgb color = ColorPaleta(kColorEstado);
+    int n = 0;
+    for (const auto& tramos : EstadosDigitales(store.MuestrasDig, filas_, tramo_)) {
+        const double base = BaseFila(++n, fila);
+        for (const TramoEstado& t : tramos)
+            plot_->Caja(tramo_.X(t.primera - 1), base, tramo_.X(t.ultima), base - kAltoEstado, color);
+    }
+}
+
+void frm19::Repinta()
+{
+    PintaEjes();
+    const PuntosCurva p = CurvaReferencia(store.Muestras, store.CanalRef, tramo_);
+    plot_->Poligonal(p.PuntosX, p.PuntosY, ColorCurva(store.Colores, store.CanalRef));
+    PintaFilas();
+}
+
+/// What `ZoomPendiente` or the history asks for, both cursors on its first sample.
+void frm19::PintaDigital()
+{
+    const auto nivel = zoom_.Calcula(Cursor1, Cursor2, static_cast<float>(plot_->Ancho()));
+    if (!nivel) {
+        PonPuntero(this, Puntero::Normal);
+        Avisa(Textos(76), Icono::Informacion);
+        return;
+    }
+    const auto a = static_cast<std::int16_t>(nivel->s), b = static_cast<std::int16_t>(nivel->e);
+    tramo_ = {static_cast<std::int16_t>(nivel->MuestraInicial), b, nivel->EscalaX};
+    PonBarras(a, a, b);
+    Repinta();
+    HScroll1_Change();
+    HScroll2_Change();
+    zoom_.Guarda(*nivel);
+}
+
+double frm19::XCursor(float cursor) const
+{
+    return LugarCursor(cursor, tramo_.MuestraInicial, tramo_.EscalaX, static_cast<float>(kMargenDigital));
+}
+
+void frm19::PonTextos(int cursor)
+{
+    const int muestra = (cursor == 1 ? HScroll1 : HScroll2)->value();
+    PonTexto(cursor == 1 ? lblizq : lblder, Q(FormaDelimitada(muestra)));
+    analogicas_->PonEntero(cursor == 1 ? kLblamar : kLblcian, ValorReferencia(muestra));
+    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
+}
+
+std::optional<HojaOndas> frm19::Hoja(Impresora& impresora)
+{
+    return HojaDigital(store, impresora, {plot_->Ancho(), plot_->Alto(), tramo_, filas_},
+                       {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
+}
+
+void frm19::cmdzoom_Click()
+{
+    zoom_.ZoomPendiente = true;
+    const PunteroEspera espera(*this);
+    PintaDigital();
+}
+
+void frm19::HScroll_Analog_Change()
+{
+    analogicas_->Corre();
+}
+
+void frm19::HScroll_Nombres_Change()
+{
+    label->Corre();
+}
+
+void frm19::analogicas_Click(int k)
+{
+    analogicas_->Restaura(k);
+}
+
+void frm19::label_Click(int n)
+{
+    label->Restaura(n);
+}
+
+void frm19::Form_Unload()
+{
+    MuestraMenu();
+}
+
+}  // namespace veldix

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "digital/lugares_digital.h"
+#include "digital/plot_digital.h"
+#include "platform/forms/EtiquetasCorridas.h"
+#include "waves/forms/VistaOndas.h"
+#include "waves/zoom_cursores.h"
+
+namespace veldix {
+
+/// Up to nineteen digital channels as bars of state, a row each, under one analog reference. Its zoom is made
+/// between the cursors.
+class frm19 : public VistaOndas {
+    Q_OBJECT
+
+public:
+    /// Loads it, hidden, for what a chooser left in the store. A failure unloads it.
+    frm19();
+    static Portador<frm19> unica;
+
+    const ZoomCursores& Zoom() const { return zoom_; }
+
+protected:
+    void Form_Unload() override;
+    void Rehace() override;
+    void Redibuja() override { PintaDigital(); }
+    void Repinta() override;
+    HistoriaZoom& Historia() override { return zoom_; }
+    double XCursor(float cursor) const override;
+    void PonTextos(int cursor) override;
+    std::optional<HojaOndas> Hoja(Impresora& impresora) override;
+    void cmdzoom_Click() override;
+
+private:
+    void CreaControles();
+    void Form_Load();
+    void ColocaControles();
+    /// Texts of sample 1, and the names of the rows.
+    void LlenaEtiquetas();
+    void PintaDigital();
+    void PintaEjes();
+    void PintaFilas();
+    void HScroll_Analog_Change();
+    void HScroll_Nombres_Change();
+    void analogicas_Click(int k);
+    void label_Click(int n);
+
+    EtiquetasCorridas *label, *analogicas_;  ///< the latter `lblanalog`, `lblamar`, `lblcian`
+    BarraCursor *HScroll_Nombres, *HScroll_Analog;
+    QWidget* ventanilla_;  ///< what is seen of the plot: its margin, where the names stand, is cut away
+    QLabel *lblizq, *lblder;
+
+    std::vector<FilaDigital> filas_;
+    TramoDigital tramo_;
+    ZoomCursores zoom_{kMargenesDigital};
+};
+
+}  // namespace veldix

@@ -1,0 +1,33 @@
+#include "digital/lugares_grid.h"
+
+#include <algorithm>
+
+namespace veldix {
+
+namespace {
+
+constexpr int kColumnas = 8, kEtiquetas = 20;
+constexpr double kSolape = 16.0, kMargen = 120.0, kResto = 0.2;
+
+}  // namespace
+
+LugaresGrid ColocaGrid(const TamanoGrid& t)
+{
+    LugaresGrid l;
+    l.anchoEtiqueta = std::min(t.alto / 7.0, (1.0 - kResto) * t.anchoInterior / kColumnas);
+    l.altoEtiqueta = std::min(t.ancho / 63.0, (t.altoInterior / 2.0 - kSolape) / kEtiquetas + kSolape);
+    l.paso = l.altoEtiqueta - kSolape;
+    const double izquierda = kColumnas * l.anchoEtiqueta + kMargen;
+    l.resto = {izquierda, kMargen, std::max(0.0, t.anchoInterior - izquierda - kMargen),
+               std::max(0.0, t.altoInterior - 2.0 * kMargen)};
+    return l;
+}
+
+Lugar LugaresGrid::Grupo(int k) const
+{
+    const double alto = kEtiquetas * paso + kSolape;
+    const int banda = (k - 1) / kColumnas, columna = (k - 1) % kColumnas;
+    return {columna * anchoEtiqueta, banda * alto, anchoEtiqueta, alto};
+}
+
+}  // namespace veldix
