@@ -78,6 +78,20 @@ TEST(Raster, ALineCoversTheExpectedPixels)
         EXPECT_EQ(tela.Dibujo(), c.dibujo)
             << c.x1 << ',' << c.y1 << " - " << c.x2 << ',' << c.y2 << " x " << c.grueso;
     }
+    const struct {
+        double x1, y1, x2, y2;
+        const char* dibujo;
+    } cajas[] = {{1.4, 2.0, 3.5, 0.5, "....../.####./.####./......"},
+                 {4, 1, 4, 1, "....../....#./....../......"},
+                 {-kMax, 2.6, 0.4, kMax, "....../....../....../#....."},
+                 {6, 0, 9, 3, "....../....../....../......"},
+                 {-5, 0, -0.6, 3, "....../....../....../......"},
+                 {0, 0, kNan, 3, "....../....../....../......"}};
+    for (const auto& c : cajas) {
+        Tela tela(6, 4);
+        RellenaCaja(tela.imagen, c.x1, c.y1, c.x2, c.y2, kTinta);
+        EXPECT_EQ(tela.Dibujo(), c.dibujo) << c.x1 << ',' << c.y1 << " - " << c.x2 << ',' << c.y2;
+    }
     Tela llena(3, 2);
     Rellena(llena.imagen, kTinta);
     EXPECT_EQ(llena.Dibujo(), "###/###");

@@ -1,0 +1,338 @@
+#include <QComboBox>
+#include <QRadioButton>
+
+#include "digital/forms/frm19.h"
+#include "digital/forms/frmElecdig.h"
+#include "digital/forms/frmGrid.h"
+#include "platform/forms/impresion.h"
+#include "support/grabadora.h"
+#include "waves/forms/registro_ondas.h"
+
+namespace veldix {
+namespace {
+
+using prueba::Valor;
+
+constexpr const char* kLimite = "No se pueden elegir más de 19 canales digitales.";
+
+/// The record of waves with three digital channels: 1 from sample 401 to 500, always, never; and a template
+/// with a group of these and two of eleven, whose channels are the record's in turn.
+class DigitalTest : public prueba::RegistroOndas {
+protected:
+    DigitalTest()
+    {
+        store.NumDigital = 3;
+        store.MuestrasDig = Tabla2<std::int16_t>(960, 3);
+        for (int i = 1; i <= 960; ++i) {
+            store.MuestrasDig(i, 1) = i > 400 && i <= 500 ? 1 : 0;
+            store.MuestrasDig(i, 2) = 1;
+        }
+        Grupos({3, 11, 11});
+        for (int c = 2; c <= 3; ++c)  // rows and columns agree: the reference is read by its row
+            store.Canales(c).Nombre = "LARGA " + std::to_string(c);
+    }
+    static void Grupos(const std::vector<int>& cuentas)
+    {
+        store.NumGruposDig = static_cast<std::int16_t>(cuentas.size());
+        store.GruposDig = Tabla1<FilaGrupoDig>(store.NumGruposDig);
+        int filas = 0;
+        for (int g = 1; g <= store.NumGruposDig; ++g) {
+            const int cuenta = cuentas[static_cast<std::size_t>(g - 1)];
+            store.GruposDig(g) = {"GRUPO " + std::to_string(g), std::to_string(cuenta)};
+            filas += cuenta;
+        }
+        store.CanalesDig = Tabla1<FilaCanalDig>(filas);
+        for (int r = 1; r <= filas; ++r)
+            store.CanalesDig(r) = {std::to_string((r - 1) % 3 + 1), "Señal " + std::to_string(r)};
+    }
+
+    frmGrid* AbreGrid()
+    {
+        frmGrid::unica.CargaNueva();
+        if (frmGrid* g = frmGrid::unica.Cargado()) g->Presenta(g->Foco());
+        Asienta();
+        return frmGrid::unica.Cargado();
+    }
+    frm19* AbreGrupo(int g)
+    {
+        frmElecdig::unica.Muestra();
+        Da<QRadioButton>("optdg" + std::to_string(g), frmElecdig::unica.Cargado())->click();
+        Pulsa("cmdOK", frmElecdig::unica.Cargado());
+        return frm19::unica.Cargado();
+    }
+    static QLabel* Canal(int k, int j)
+    {
+        return Da<QLabel>("lblgrp" + std::to_string(k) + "_" + std::to_string(j), frmGrid::unica.Cargado());
+    }
+    static void Clic(int k, int j) { QTest::mouseClick(Canal(k, j), Qt::LeftButton); }
+    /// As a mouse sends it: the second press is the double click, and its release comes behind it.
+    static void Doble(int k, int j)
+    {
+        Clic(k, j);
+        QTest::mouseDClick(Canal(k, j), Qt::LeftButton);
+        QMouseEvent sube(QEvent::MouseButtonRelease, QPointF(5, 5), Canal(k, j)->mapToGlobal(QPointF(5, 5)),
+                         Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(Canal(k, j), &sube);
+    }
+    static std::string Fondo(int k, int j)
+    {
+        const QLabel* l = Canal(k, j);
+        return U(l->palette().color(QPalette::Window).name());
+    }
+    static std::string Elegidos() { return Texto("Label102", frmGrid::unica.Cargado()); }
+    static std::vector<OperacionLienzo> Graba(frm19* v)
+    {
+        std::vector<OperacionLienzo> ops;
+        v->Plot()->PonGrabadora(&ops);
+        Q_EMIT v->Plot()->PideDibujo();
+        v->Plot()->PonGrabadora(nullptr);
+        return ops;
+    }
+    static std::vector<OperacionLienzo> De(const std::vector<OperacionLienzo>& ops,
+                                           OperacionLienzo::Tipo tipo)
+    {
+        std::vector<OperacionLienzo> suyas;
+        std::ranges::copy_if(ops, std::back_inserter(suyas), [&](const auto& o) { return o.tipo == tipo; });
+        return suyas;
+    }
+    static void Cursores(frm19* v, int c1, int c2)
+    {
+        Da<QScrollBar>("HScroll1", v)->setValue(c1);
+        Da<QScrollBar>("HScroll2", v)->setValue(c2);
+    }
+    /// Range of the bars, both cursors, level and levels.
+    static std::vector<int> Estado(frm19* v)
+    {
+        const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
+        return {una->minimum(),  una->value(),        otra->value(),
+                otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
+    }
+    using Tipo = OperacionLienzo::Tipo;
+};
+
+TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
+{
+    ASSERT_TRUE(AbreGrid() && !menu);
+    const std::string blanco = Fondo(1, 2), azul = "#c0c0ff", amarillo = "#ffff00";
+    EXPECT_EQ(Fondo(1, 1), azul);
+    EXPECT_NE(blanco, azul);
+    EXPECT_TRUE(Canal(1, 0)->isEnabled() && Canal(3, 11)->isEnabled());
+    EXPECT_FALSE(Canal(1, 4)->isEnabled() || Canal(4, 0)->isEnabled());
+    for (const auto& [k, j] : {std::pair{1, 0}, {1, 4}, {4, 0}, {16, 19}})
+        Doble(k, j);
+    QTest::mousePress(Canal(1, 1), Qt::LeftButton);
+    QTest::mouseRelease(Canal(1, 1), Qt::LeftButton, {}, QPoint(-5, -5));
+    EXPECT_EQ(Elegidos(), "0");
+    Clic(1, 1);
+    Clic(1, 1);
+    EXPECT_EQ(Fondo(1, 1) + Elegidos(), amarillo + "1");
+    Doble(1, 1);
+    EXPECT_EQ(Fondo(1, 1) + Elegidos(), azul + "0");
+    Doble(1, 2);
+    EXPECT_EQ(Fondo(1, 2) + Elegidos(), blanco + "0") << "the release behind a double click chose it again";
+    for (int j = 1; j <= 11; ++j)
+        Clic(2, j);
+    for (int j = 1; j <= 7; ++j)
+        Clic(3, j);
+    Canal(1, 2)->setFocus();
+    QTest::keyClick(Canal(1, 2), Qt::Key_Down);
+    QTest::keyClick(Canal(1, 3), Qt::Key_Space);
+    EXPECT_EQ(Fondo(1, 3) + Elegidos(), amarillo + "19");
+    cajas.Espera(kLimite, Icono::Critico);
+    Clic(3, 8);
+    cajas.Espera(kLimite, Icono::Critico);
+    cajas.Espera(kLimite, Icono::Critico);
+    Doble(3, 9);
+    EXPECT_EQ(Elegidos(), "19");
+    QTest::keyClick(Canal(1, 3), Qt::Key_Delete);
+    EXPECT_EQ(Fondo(1, 3) + Elegidos(), blanco + "18");
+    Pulsa("cmdcancel", frmGrid::unica.Cargado());
+    EXPECT_TRUE(menu && !frmGrid::unica.Cargado() && store.ModoDigital == 0);
+}
+
+TEST_F(DigitalTest, ByHandTheChosenStandInTheOrderOfTheGroups)
+{
+    store.RevisionCfg = "1997";
+    Clic((AbreGrid(), 2), 2);  // rows 5 and 1 of the table: channels 2 and 1
+    Clic(1, 1);
+    Da<QComboBox>("Combo1", frmGrid::unica.Cargado())->setCurrentIndex(2);
+    Pulsa("cmdOK", frmGrid::unica.Cargado());
+    frm19* v = frm19::unica.Cargado();
+    ASSERT_TRUE(v && v->isVisible() && !menu && !frmGrid::unica.Cargado());
+    EXPECT_EQ(avance, "[Preparando los canales digitales... 10 20 50 70 100]");
+    EXPECT_EQ(U(v->windowTitle()), "Canales Digitales ");
+    EXPECT_EQ(Texto("label1", v) + "|" + Texto("label2", v) + "|" + Texto("label3", v), "Señal 1|Señal 5|");
+    EXPECT_EQ(Texto("lblanalog", v) + Texto("lbl_PS", v), "LARGA 3PRIMARIO");
+    EXPECT_EQ(Texto("lblamar", v), std::to_string(2 * Valor(1, 3)) + ",000 A");
+    EXPECT_EQ(Texto("lblizq", v) + Texto("lblder", v) + Texto("lbltiempo", v), "110 ms");
+    const auto ops = Graba(v);
+    const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), fila = (h - 200) / 24;
+    const double paso = (w - 1400) / 960;
+    const auto lineas = De(ops, Tipo::Linea), cajasPlot = De(ops, Tipo::Caja);
+    ASSERT_EQ(lineas.size(), 4U);
+    EXPECT_NEAR(lineas[2].ys[0], 1200 + 2 * fila, 0.01);
+    ASSERT_EQ(cajasPlot.size(), 2U);
+    EXPECT_NEAR(cajasPlot[0].xs[0], 1200 + 400 * paso, 0.05);
+    EXPECT_NEAR(cajasPlot[0].xs[1], 1200 + 500 * paso, 0.05);
+    EXPECT_NEAR(cajasPlot[0].ys[0], 1200 + 2 * fila, 0.01);
+    EXPECT_NEAR(cajasPlot[0].ys[1], 1125 + 2 * fila, 0.01);
+    EXPECT_EQ(cajasPlot[1].xs[0], 1200.0);
+    EXPECT_NEAR(cajasPlot[1].xs[1], w - 200, 0.05);
+    const auto curva = De(ops, Tipo::Poligonal).at(0);
+    ASSERT_EQ(curva.xs.size(), 960U);
+    EXPECT_NEAR(curva.xs[0], 1200 + paso, 0.05);
+    EXPECT_NEAR(curva.ys[0], 600 - 600.0 * 2 * Valor(1, 3) / 120, 0.05);  // the largest is 3 * 20, primary
+    EXPECT_EQ(curva.color & 0xFFFFFFU, 0xFF0000U);
+    EXPECT_NEAR(LineaX("lnizq", v), 1200 + paso, 15);
+    v->Ventana().close();
+    Asienta();
+    EXPECT_TRUE(menu && store.EnPrimario);
+}
+
+TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
+{
+    store.NumGruposDig = 0;
+    ASSERT_TRUE(AbreGrid());
+    EXPECT_FALSE(Canal(1, 0)->isEnabled() || Canal(16, 19)->isEnabled());
+    Da<QComboBox>("Combo1", frmGrid::unica.Cargado())->setCurrentIndex(-1);
+    Pulsa("cmdOK", frmGrid::unica.Cargado());
+    frm19* v = frm19::unica.Cargado();
+    ASSERT_TRUE(v);
+    EXPECT_EQ(Texto("lblanalog", v) + Texto("label1", v), "I1");
+    const auto ops = Graba(v);
+    EXPECT_TRUE(De(ops, Tipo::Caja).empty() && De(ops, Tipo::Linea).size() == 2);
+    v->Descarga();
+
+    Grupos(std::vector<int>(17, 1));
+    ASSERT_TRUE(AbreGrid());
+    EXPECT_FALSE(Canal(1, 0)->isEnabled());
+    frmGrid::unica.Descarga();
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    frmElecdig::unica.Muestra();
+    EXPECT_TRUE(menu && !frmElecdig::unica.Cargado());
+}
+
+TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
+{
+    frm19* v = AbreGrupo(1);
+    ASSERT_TRUE(v && !menu);
+    EXPECT_EQ(U(v->windowTitle()), "Canales Digitales GRUPO 1");
+    const std::vector<int> todo{1, 1, 1, 960, 0, 1};
+    EXPECT_EQ(Estado(v), todo);
+    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
+    Pulsa("cmdzoom", v);
+    cajas.Espera("Este es el último nivel de zoom.", Icono::Informacion);
+    Pulsa("cmdadel", v);
+    cajas.Espera("Este es el primer nivel de zoom.", Icono::Informacion);
+    Pulsa("cmdatras", v);
+    EXPECT_EQ(Estado(v), todo);
+
+    Cursores(v, 600, 400);
+    EXPECT_EQ(Texto("lblizq", v) + " " + Texto("lblder", v) + " " + Texto("lbltiempo", v),
+              "600 400 200,000 ms");
+    EXPECT_EQ(Texto("lblcian", v), std::to_string(Valor(400, 1)) + ",000 A");
+    Pulsa("cmdzoom", v);
+    EXPECT_EQ(Estado(v), (std::vector{400, 400, 400, 600, 1, 2}));
+    const double w = v->Plot()->Ancho(), paso = (w - 1400) / 200;
+    auto ops = Graba(v);
+    const auto curva = De(ops, Tipo::Poligonal).at(0);
+    ASSERT_EQ(curva.xs.size(), 200U) << "the sample under the cursor is not drawn";
+    EXPECT_NEAR(curva.xs[0], 1200 + paso, 0.05);
+    EXPECT_NEAR(De(ops, Tipo::Caja).at(0).xs[0], 1200.0, 0.05);
+    EXPECT_NEAR(De(ops, Tipo::Caja).at(0).xs[1], 1200 + 100 * paso, 0.05);
+    EXPECT_NEAR(LineaX("lnizq", v), 1200, 15);
+    Cursores(v, 400, 600);
+    EXPECT_NEAR(LineaX("lnder", v), w - 200, 15);
+    Pulsa("cmdatras", v);
+    EXPECT_EQ(Estado(v), (std::vector{1, 1, 1, 960, 0, 2}));
+    EXPECT_EQ(De(Graba(v), Tipo::Poligonal).at(0).xs.size(), 959U) << "samples 2 on, by the stored level";
+    Pulsa("cmdadel", v);
+    EXPECT_EQ(Estado(v), (std::vector{400, 400, 400, 600, 1, 2}));
+    Estira(v);
+    EXPECT_EQ(Estado(v), todo);
+    ops = Graba(v);
+    EXPECT_EQ(De(ops, Tipo::Poligonal).at(0).xs.size(), 960U);
+    EXPECT_EQ(De(ops, Tipo::Caja).size(), 2U);
+}
+
+TEST_F(DigitalTest, NamesAndTheTextsOfTheReferenceScrollApart)
+{
+    store.CanalesDig(2).Nombre = "Señal larga";
+    frm19* v = AbreGrupo(1);
+    auto *nombres = Da<QScrollBar>("HScroll_Nombres", v), *analog = Da<QScrollBar>("HScroll_Analog", v);
+    EXPECT_EQ((std::vector{nombres->maximum(), nombres->pageStep(), analog->maximum()}),
+              (std::vector{11, 4, static_cast<int>(Texto("lblamar", v).size())}));
+    nombres->setValue(3);
+    EXPECT_EQ(Texto("label1", v) + "|" + Texto("label2", v) + "|" + Texto("lblanalog", v),
+              "al 1|al larga|I1");
+    analog->setValue(1);
+    EXPECT_EQ(Texto("lblanalog", v), "1");
+    QTest::mouseClick(Da<QLabel>("label2", v), Qt::LeftButton);
+    EXPECT_EQ(Texto("label1", v) + "|" + Texto("label2", v), "al 1|Señal larga");
+    store.Muestras(7, 1) = 1234567.0F;
+    Da<QScrollBar>("HScroll1", v)->setValue(7);
+    EXPECT_EQ(Texto("lblamar", v), "1234567,000 A") << "a value that moves is shown whole";
+    EXPECT_EQ(Texto("lblanalog", v), "1");
+    EXPECT_EQ(analog->maximum(), 13);
+    QTest::mouseClick(Da<QLabel>("lblanalog", v), Qt::LeftButton);
+    EXPECT_EQ(Texto("lblanalog", v), "I1");
+}
+
+TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
+{
+    const auto menuSolo = [this] {
+        Asienta();
+        return menu && !frm19::unica.Cargado() && !frmElecdig::unica.Cargado() && !frmGrid::unica.Cargado() &&
+               cajas.Pendientes() == 0;
+    };
+    cajas.Espera("La plantilla no tiene grupos digitales o no se ha elegido ninguno.", Icono::Ninguno);
+    frmElecdig::unica.Muestra();
+    Pulsa("cmdOK", frmElecdig::unica.Cargado());
+    EXPECT_TRUE(menuSolo());
+    store.CanalesDig(3).Numero = "4";
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    EXPECT_EQ(AbreGrupo(1), nullptr);
+    EXPECT_TRUE(menuSolo());
+    store.PlantillaAplicada = true;
+    cajas.Espera(Textos(246), Icono::Critico);
+    EXPECT_TRUE(AbreGrid());
+    Pulsa("cmdcancel", frmGrid::unica.Cargado());
+    EXPECT_TRUE(menuSolo());
+    for (const char* bueno : {"x", ""}) {
+        store.CanalesDig(3).Numero = bueno;
+        cajas.Espera("Error 13: Type mismatch", Icono::Critico);
+        EXPECT_EQ(AbreGrid(), nullptr);
+        EXPECT_TRUE(menuSolo());
+    }
+    Grupos({20});
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    EXPECT_EQ(AbreGrupo(1), nullptr);
+    EXPECT_TRUE(menuSolo() && avance.ends_with(']'));
+    store.MuestrasDig = {};
+    Grupos({1});
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    EXPECT_EQ(AbreGrupo(1), nullptr);
+    EXPECT_TRUE(menuSolo());
+}
+
+TEST_F(DigitalTest, APageShowsTheZoomedStretch)
+{
+    frm19* v = AbreGrupo(1);
+    Cursores(v, 451, 651);
+    Pulsa("cmdzoom", v);
+    auto impresora = std::make_shared<prueba::Grabadora>();
+    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 2, false}; });
+    Pulsa("pctimpresora", v);
+    PonDialogoImpresion({});
+    using Op = prueba::OperacionPagina;
+    EXPECT_EQ(impresora->De(Op::Tipo::Pagina).size(), 1U);
+    const auto cajasPapel = impresora->De(Op::Tipo::Caja);
+    ASSERT_EQ(cajasPapel.size(), 4U);
+    const double ancho = 16838.0 * (0.92 - 0.15);
+    EXPECT_NEAR(cajasPapel[0].xs[1] - cajasPapel[0].xs[0], ancho * 49 / 200, 1.0);
+    EXPECT_NEAR(cajasPapel[1].xs[1] - cajasPapel[1].xs[0], ancho, 1.0);
+    EXPECT_EQ(impresora->Primero("GRUPO 1").texto, "GRUPO 1");
+}
+
+}  // namespace
+}  // namespace veldix
