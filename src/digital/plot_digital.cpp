@@ -91,4 +91,15 @@ std::vector<std::vector<TramoEstado>> EstadosDigitales(const Tabla2<std::int16_t
     return tramos;
 }
 
+std::vector<double> BordesEstado(const std::vector<TramoEstado>& tramos, const TramoDigital& tramo)
+{
+    std::vector<double> xs;
+    xs.reserve(2 * tramos.size());
+    for (const TramoEstado& t : tramos) {
+        xs.push_back(tramo.X(t.primera - 1));
+        xs.push_back(tramo.X(t.ultima));
+    }
+    return xs;
+}
+
 }  // namespace veldix

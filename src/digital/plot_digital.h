@@ -66,4 +66,7 @@ std::vector<std::vector<TramoEstado>> EstadosDigitales(const Tabla2<std::int16_t
                                                        const std::vector<FilaDigital>& filas,
                                                        const TramoDigital& tramo);
 
+/// Left and right x of the bars of a row on the plot, one behind the other.
+std::vector<double> BordesEstado(const std::vector<TramoEstado>& tramos, const TramoDigital& tramo);
+
 }  // namespace veldix

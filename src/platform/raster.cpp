@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
-#include <utility>
 
 namespace veldix {
 namespace {
@@ -194,6 +193,19 @@ std::size_t FinDeColumna(std::span<const double> xs, std::size_t i, double escal
     return i;
 }
 
+/// First and last pixel of a stretch, within the picture.
+struct Tramo {
+    int primero = 0, ultimo = -1;
+    bool Vacio() const { return primero > ultimo; }
+};
+
+/// Both ends are held to one beyond the picture before they become integers.
+Tramo PixelesEntre(double a, double b, int total)
+{
+    return {static_cast<int>(std::clamp<double>(std::floor(std::min(a, b) + 0.5), 0.0, total)),
+            static_cast<int>(std::clamp<double>(std::floor(std::max(a, b) + 0.5), -1.0, total - 1))};
+}
+
 }  // namespace
 
 void Rellena(const Imagen32& imagen, std::uint32_t color)
@@ -204,22 +216,29 @@ void Rellena(const Imagen32& imagen, std::uint32_t color)
     }
 }
 
-void RellenaCaja(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color)
+void RellenaCajas(const Imagen32& imagen, std::span<const double> xs, double y1, double y2, double escala,
+                  std::uint32_t color)
 {
-    if (imagen.pixeles == nullptr || imagen.ancho <= 0) return;
-    if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
-    // First and last pixel of a stretch, held to one beyond the picture before they become integers.
-    const auto pixeles = [](double a, double b, int total) {
-        return std::pair{
-            static_cast<int>(std::clamp<double>(std::floor(std::min(a, b) + 0.5), 0.0, total)),
-            static_cast<int>(std::clamp<double>(std::floor(std::max(a, b) + 0.5), -1.0, total - 1))};
+    if (imagen.pixeles == nullptr || imagen.ancho <= 0 || !std::isfinite(y1) || !std::isfinite(y2)) return;
+    const Tramo filas = PixelesEntre(y1 * escala, y2 * escala, imagen.alto);
+    const auto rellena = [&](const Tramo& t) {
+        for (int y = filas.primero; y <= filas.ultimo; ++y)
+            std::fill(imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso + t.primero,
+                      imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso + t.ultimo + 1, color);
     };
-    const auto [izquierda, derecha] = pixeles(x1, x2, imagen.ancho);
-    const auto [arriba, abajo] = pixeles(y1, y2, imagen.alto);
-    if (izquierda > derecha) return;
-    for (int y = arriba; y <= abajo; ++y)
-        std::fill_n(imagen.pixeles + static_cast<std::ptrdiff_t>(y) * imagen.paso + izquierda,
-                    derecha - izquierda + 1, color);
+    Tramo junto;
+    for (std::size_t k = 0; k + 1 < xs.size(); k += 2) {
+        if (!std::isfinite(xs[k]) || !std::isfinite(xs[k + 1])) continue;
+        const Tramo t = PixelesEntre(xs[k] * escala, xs[k + 1] * escala, imagen.ancho);
+        if (t.Vacio()) continue;
+        if (!junto.Vacio() && t.primero >= junto.primero && t.primero <= junto.ultimo + 1) {
+            junto.ultimo = std::max(junto.ultimo, t.ultimo);
+            continue;
+        }
+        if (!junto.Vacio()) rellena(junto);
+        junto = t;
+    }
+    if (!junto.Vacio()) rellena(junto);
 }
 
 void TrazaLinea(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color,

@@ -17,10 +17,12 @@ inline constexpr int kGruesoMaximo = 64;
 
 void Rellena(const Imagen32& imagen, std::uint32_t color);
 
-/// Fills the rectangle between two opposite corners, the pixels of both included, in device pixels; pixel n
-/// holds [n - 0.5, n + 0.5). What lies outside the picture is left out; an infinite or NaN corner fills
-/// nothing.
-void RellenaCaja(const Imagen32& imagen, double x1, double y1, double x2, double y2, std::uint32_t color);
+/// Fills a row of rectangles, from xs[2k] to xs[2k + 1] and from y1 to y2 times `escala`, in device pixels;
+/// the pixels of both ends are included, and pixel n holds [n - 0.5, n + 0.5). What lies outside the picture
+/// is left out, and one with an infinite or NaN corner fills nothing. Rising neighbours that touch are filled
+/// as one.
+void RellenaCajas(const Imagen32& imagen, std::span<const double> xs, double y1, double y2, double escala,
+                  std::uint32_t color);
 
 /// Draws from (x1, y1) to (x2, y2), both ends included, in device pixels; pixel n holds [n - 0.5, n + 0.5).
 /// The pen is a square of `grueso` pixels (held to 1..kGruesoMaximo) centred on the line, the odd pixel to

@@ -90,8 +90,9 @@ double RedactorHoja::PonCursores(int fila, const DatosHoja& d, const char* rotul
         std::string texto = Textos(266) + FormaDelimitada(static_cast<int>(cursor));
         if (!v.valor.empty()) {
             const double resto = AnchoRotulo(rotulo) + Ancho(texto + "  " + v.valor, kNormal);
-            if (!v.nombre.empty()) texto += " " + Cabe(v.nombre, fin - x - resto, kNormal);
-            texto += " " + v.valor;
+            // A wider gap keeps two numbers apart that no name parts.
+            const std::string nombre = v.nombre.empty() ? " " : Cabe(v.nombre, fin - x - resto, kNormal) + " ";
+            texto += " " + nombre + v.valor;
         }
         return PonPar(x, Fila(fila), rotulo, texto);
     };

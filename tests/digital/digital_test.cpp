@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <random>
 
 #include "digital/eleccion.h"
@@ -174,18 +175,15 @@ TEST(PlotDigital, OneBoxARunHasOtherPixelsThanOneASample)
     for (int k = 0; k < 400; ++k)
         estados += azar() % 3 == 0 ? '0' : '1';
     const RecordStore s = Registro({estados}, {});
-    for (const float escala : {3.1F, 15.0F, 41.7F}) {
+    for (const float escala : {0.7F, 9.1F, 15.0F, 41.7F}) {
         const TramoDigital t{17, 390, escala};
         std::vector<std::uint32_t> una(600 * 8), otra(600 * 8);
         const Imagen32 junta{una.data(), 600, 8, 600}, suelta{otra.data(), 600, 8, 600};
-        const auto caja = [&](const Imagen32& i, double x1, double x2) {
-            RellenaCaja(i, x1 / 15.0, 100.0 / 15.0, x2 / 15.0, 25.0 / 15.0, 1);
-        };
         const auto filas = EstadosDigitales(s.MuestrasDig, {{1, ""}}, t);
-        for (const TramoEstado& e : filas.at(0))
-            caja(junta, t.X(e.primera - 1), t.X(e.ultima));
+        RellenaCajas(junta, BordesEstado(filas.at(0), t), 100.0, 25.0, 1.0 / 15.0, 1);
         for (int k = t.MuestraInicial + 1; k <= t.ultima; ++k)
-            if (s.MuestrasDig(k, 1) == 1) caja(suelta, t.X(k - 1), t.X(k));
+            if (s.MuestrasDig(k, 1) == 1)
+                RellenaCajas(suelta, std::array{t.X(k - 1), t.X(k)}, 100.0, 25.0, 1.0 / 15.0, 1);
         EXPECT_GT(std::count(una.begin(), una.end(), 1U), 0);
         EXPECT_EQ(una, otra) << escala;
     }
@@ -241,7 +239,7 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
         EXPECT_NEAR(h.dentro[3].x1, 3000.0 + 10 * kPaso, 0.01);  // the yellow cursor
         ImprimeHoja(imp, h);
         EXPECT_EQ(imp.De(Tipo::Caja).size(), 1U);
-        EXPECT_EQ(imp.Primero("60").texto + imp.Primero("150").texto, "60 60.000 kA150 150.000 kA");
+        EXPECT_EQ(imp.Primero("60").texto + imp.Primero("150").texto, "60  60.000 kA150  150.000 kA");
         for (const char* texto : {"Fichero origen : ", "/r/falta.dat", "Tiempo entre cursores : ",
                                   "90.000 ms", "D1", "D2", "Ia", "0 kA  ", "100", "hoy"})
             EXPECT_EQ(imp.Primero(texto).texto, texto);

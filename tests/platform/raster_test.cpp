@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 #include <string>
@@ -89,9 +90,14 @@ TEST(Raster, ALineCoversTheExpectedPixels)
                  {0, 0, kNan, 3, "....../....../....../......"}};
     for (const auto& c : cajas) {
         Tela tela(6, 4);
-        RellenaCaja(tela.imagen, c.x1, c.y1, c.x2, c.y2, kTinta);
+        RellenaCajas(tela.imagen, std::array{c.x1, c.x2}, c.y1, c.y2, 1.0, kTinta);
         EXPECT_EQ(tela.Dibujo(), c.dibujo) << c.x1 << ',' << c.y1 << " - " << c.x2 << ',' << c.y2;
     }
+    // Boxes that touch, overlap, stand apart, go back, cannot be drawn, and an end without its box.
+    const double xs[] = {0, 1, 2, 3, 2, 2, 7, 8, 5, 5, kNan, 9, -4, -2, 11, 30, 9};
+    Tela fila(12, 1);
+    RellenaCajas(fila.imagen, xs, 0, 0, 1.0, kTinta);
+    EXPECT_EQ(fila.Dibujo(), "####.#.##..#");
     Tela llena(3, 2);
     Rellena(llena.imagen, kTinta);
     EXPECT_EQ(llena.Dibujo(), "###/###");

@@ -167,8 +167,7 @@ void frm19::PintaFilas()
     int n = 0;
     for (const auto& tramos : EstadosDigitales(store.MuestrasDig, filas_, tramo_)) {
         const double base = BaseFila(++n, fila);
-        for (const TramoEstado& t : tramos)
-            plot_->Caja(tramo_.X(t.primera - 1), base, tramo_.X(t.ultima), base - kAltoEstado, color);
+        if (!tramos.empty()) plot_->Cajas(BordesEstado(tramos, tramo_), base, base - kAltoEstado, color);
     }
 }
 

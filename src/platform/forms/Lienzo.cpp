@@ -81,12 +81,11 @@ void Lienzo::Poligonal(std::span<const double> xs, std::span<const double> ys, Q
     update();
 }
 
-void Lienzo::Caja(double x1, double y1, double x2, double y2, QRgb color)
+void Lienzo::Cajas(std::span<const double> xs, double y1, double y2, QRgb color)
 {
-    Graba(OperacionLienzo::Tipo::Caja, std::array{x1, x2}, std::array{y1, y2}, color);
+    Graba(OperacionLienzo::Tipo::Cajas, xs, std::array{y1, y2}, color);
     const Imagen32 superficie = Superficie();
-    const double e = Escala();
-    RellenaCaja(superficie, x1 * e, y1 * e, x2 * e, y2 * e, Opaco(color));
+    RellenaCajas(superficie, xs, y1, y2, Escala(), Opaco(color));
     update();
 }
 

@@ -11,10 +11,10 @@
 
 namespace veldix {
 
-/// One drawing call as it was made, in twips. A line holds two points, a box two corners,
-/// a clearing none.
+/// One drawing call as it was made, in twips. A line holds two points, a row of boxes
+/// two x a box and two y, a clearing none.
 struct OperacionLienzo {
-    enum class Tipo { Limpia, Linea, Poligonal, Caja };
+    enum class Tipo { Limpia, Linea, Poligonal, Cajas };
     Tipo tipo = Tipo::Limpia;
     std::vector<double> xs;
     std::vector<double> ys;
@@ -50,8 +50,8 @@ public:
     void Linea(double x1, double y1, double x2, double y2, QRgb color);
     void Poligonal(std::span<const double> xs, std::span<const double> ys, QRgb color);
 
-    /// A filled box between two opposite corners, both included.
-    void Caja(double x1, double y1, double x2, double y2, QRgb color);
+    /// A row of filled boxes of one height, from xs[2k] to xs[2k + 1], both ends included.
+    void Cajas(std::span<const double> xs, double y1, double y2, QRgb color);
 
     double Ancho() const { return ATwips(width()); }
     double Alto() const { return ATwips(height()); }

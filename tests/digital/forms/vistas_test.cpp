@@ -168,7 +168,7 @@ TEST_F(DigitalTest, ByHandTheChosenStandInTheOrderOfTheGroups)
     const auto ops = Graba(v);
     const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), fila = (h - 200) / 24;
     const double paso = (w - 1400) / 960;
-    const auto lineas = De(ops, Tipo::Linea), cajasPlot = De(ops, Tipo::Caja);
+    const auto lineas = De(ops, Tipo::Linea), cajasPlot = De(ops, Tipo::Cajas);
     ASSERT_EQ(lineas.size(), 4U);
     EXPECT_NEAR(lineas[2].ys[0], 1200 + 2 * fila, 0.01);
     ASSERT_EQ(cajasPlot.size(), 2U);
@@ -200,7 +200,7 @@ TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
     ASSERT_TRUE(v);
     EXPECT_EQ(Texto("lblanalog", v) + Texto("label1", v), "I1");
     const auto ops = Graba(v);
-    EXPECT_TRUE(De(ops, Tipo::Caja).empty() && De(ops, Tipo::Linea).size() == 2);
+    EXPECT_TRUE(De(ops, Tipo::Cajas).empty() && De(ops, Tipo::Linea).size() == 2);
     v->Descarga();
 
     Grupos(std::vector<int>(17, 1));
@@ -238,8 +238,8 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     const auto curva = De(ops, Tipo::Poligonal).at(0);
     ASSERT_EQ(curva.xs.size(), 200U) << "the sample under the cursor is not drawn";
     EXPECT_NEAR(curva.xs[0], 1200 + paso, 0.05);
-    EXPECT_NEAR(De(ops, Tipo::Caja).at(0).xs[0], 1200.0, 0.05);
-    EXPECT_NEAR(De(ops, Tipo::Caja).at(0).xs[1], 1200 + 100 * paso, 0.05);
+    EXPECT_NEAR(De(ops, Tipo::Cajas).at(0).xs[0], 1200.0, 0.05);
+    EXPECT_NEAR(De(ops, Tipo::Cajas).at(0).xs[1], 1200 + 100 * paso, 0.05);
     EXPECT_NEAR(LineaX("lnizq", v), 1200, 15);
     Cursores(v, 400, 600);
     EXPECT_NEAR(LineaX("lnder", v), w - 200, 15);
@@ -252,7 +252,7 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     EXPECT_EQ(Estado(v), todo);
     ops = Graba(v);
     EXPECT_EQ(De(ops, Tipo::Poligonal).at(0).xs.size(), 960U);
-    EXPECT_EQ(De(ops, Tipo::Caja).size(), 2U);
+    EXPECT_EQ(De(ops, Tipo::Cajas).size(), 2U);
 }
 
 TEST_F(DigitalTest, NamesAndTheTextsOfTheReferenceScrollApart)
