@@ -136,7 +136,8 @@ int main(int argc, char** argv)
     principal.setCentralWidget(escena.area);
     principal.resize(1280, 800);
     principal.show();
-    EligeGrupo(store, 1, 1);
+    store.CanalRef = 1;
+    EligeGrupo(store, 1);
     bool iguales = true;
     for (const auto& [nombre, periodo] :
          {std::pair{"always 1", 0}, {"a change every 700", 700}, {"every sample", 1}}) {

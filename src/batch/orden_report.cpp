@@ -147,27 +147,48 @@ bool ImprimeGrupos(Informe& informe, const Consola& consola)
     return true;
 }
 
-/// Each digital group of the template under the first of the chosen channels. Raises 9 for a group of more
-/// channels than a view has rows.
-void ImprimeDigitales(Informe& informe)
+/// A digital group as its view would hold it.
+void ImprimeGrupo(Informe& informe)
 {
-    ZoomCursores zoom(kMargenesDigital);
-    const FilaZoom registro = zoom.Reinicia(kAnchoPantalla, Ultima());
-    for (int g = 1; g <= store.NumGruposDig && EligeGrupo(store, g, informe.canales.front()); ++g) {
-        const PlotDigital plot{
-            kAnchoPantalla, kAltoDigital, {0, Ultima(), registro.EscalaX}, FilasDigitales(store)};
-        if (plot.filas.size() > kFilasDigital) Lanza(error::kSubindice);
-        const HojaOndas hoja = HojaDigital(store, informe.impresora, plot, DatosDe(informe, ""));
-        informe.Pagina();
-        ImprimeHoja(informe.impresora, hoja);
+    const FilaZoom registro = ZoomCursores(kMargenesDigital).Reinicia(kAnchoPantalla, Ultima());
+    const PlotDigital plot{
+        kAnchoPantalla, kAltoDigital, {0, Ultima(), registro.EscalaX}, FilasDigitales(store)};
+    const HojaOndas hoja = HojaDigital(store, informe.impresora, plot, DatosDe(informe, ""));
+    informe.Pagina();
+    ImprimeHoja(informe.impresora, hoja);
+}
+
+/// Each digital group of the template under the first of the chosen channels. One that no view can show is
+/// told and left out, for the sake of the other pages.
+void ImprimeDigitales(Informe& informe, const Consola& consola)
+{
+    if (store.NumGruposDig > 0 && informe.canales.empty()) {
+        Avisa(consola.espanol ? "Sin canales analógicos no hay páginas de canales digitales."
+                              : "There are no pages of digital channels without analog channels.");
+        return;
+    }
+    for (int g = 1; g <= store.NumGruposDig; ++g) {
+        store.CanalRef = static_cast<std::int16_t>(informe.canales.front());
+        if (EligeGrupo(store, g) && store.NumDigVista <= kFilasDigital)
+            ImprimeGrupo(informe);
+        else
+            Avisa((consola.espanol ? "Grupo digital sin página (más de 19 canales o de 16 grupos): "
+                                   : "Digital group without a page (over 19 channels or 16 groups): ") +
+                  store.GruposDig(g).Nombre);
     }
 }
 
-/// The header file, where the record has one.
+/// The header file, where the record has one. A failure is told, and the other pages stay.
 void ImprimeHdr(Informe& informe)
 {
     if (store.FicheroHdr.empty()) return;
-    const std::vector<std::string> lineas = LeeCabecera(store.FicheroHdr);
+    std::vector<std::string> lineas;
+    try {
+        lineas = LeeCabecera(store.FicheroHdr);
+    } catch (const ErrorEjecucion& e) {
+        Avisa(store.FicheroHdr + ": " + e.descripcion);
+        return;
+    }
     informe.Pagina();
     ImprimeCabecera(informe.impresora, lineas, [] { return false; });
 }
@@ -226,8 +247,12 @@ Salida OrdenReport(const Argumentos& a, const Consola& consola)
         impresora->Anula();
         return Salida::Fallida;
     }
-    if (plantilla) ImprimeDigitales(informe);
+    if (plantilla) ImprimeDigitales(informe, consola);
     ImprimeHdr(informe);
+    if (!informe.empezado) {
+        Avisa(consola.espanol ? "No hay nada que imprimir." : "There is nothing to print.");
+        return Salida::Fallida;
+    }
     impresora->Termina();
     return Salida::Hecha;
 }

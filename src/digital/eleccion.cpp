@@ -1,5 +1,7 @@
 #include "digital/eleccion.h"
 
+#include <utility>
+
 #include "platform/avisos.h"
 #include "platform/enteros.h"
 #include "platform/numeros.h"
@@ -37,7 +39,7 @@ bool Cambia(const Tabla2<std::int16_t>& estados, int canal)
 
 }  // namespace
 
-std::int16_t CambiaEstado(RecordStore& s, int canal)
+std::int16_t CambiaEstado(RecordStore& s, int canal, bool& avisado)
 {
     try {
         return Cambia(s.MuestrasDig, canal) ? 1 : 0;
@@ -45,14 +47,15 @@ std::int16_t CambiaEstado(RecordStore& s, int canal)
         if (e.numero != error::kSubindice || !s.RegistroAbierto || !s.PlantillaAplicada) throw;
     }
     s.PlantillaNoValida = false;
-    PunteroNormal();
-    Avisa(Textos(246), Icono::Critico);
+    if (!std::exchange(avisado, true)) {
+        PunteroNormal();
+        Avisa(Textos(246), Icono::Critico);
+    }
     return 0;
 }
 
-bool EligeGrupo(RecordStore& s, int g, int canalRef)
+bool EligeGrupo(RecordStore& s, int g)
 {
-    s.CanalRef = Entero16(canalRef);
     PonElegidos(s, 0);
     if (g < 1 || g > EleccionManual::kGrupos) return false;
     int primera = 1;
@@ -93,7 +96,7 @@ int EleccionManual::LlenaGrupo(int k, int primera)
     for (int r = primera; r < primera + cuenta; ++r) {
         const FilaCanalDig& c = s_.CanalesDig(r);
         g.nombres.push_back(c.Nombre);
-        const bool cambia = CambiaEstado(s_, Entero16Local(c.Numero)) == 1;
+        const bool cambia = CambiaEstado(s_, Entero16Local(c.Numero), avisado_) == 1;
         g.ColorEtiqueta.push_back(cambia ? Fondo::Cambia : Fondo::Ventana);
     }
     return primera + cuenta;

@@ -10,14 +10,13 @@
 namespace veldix {
 
 /// 1 where a digital channel changes state between its first and its last sample but one, which is the last
-/// that is looked at. A channel that the record lacks, while a record and a template are in force, is told
-/// and counts as 0; otherwise raises 9.
-std::int16_t CambiaEstado(RecordStore& s, int canal);
+/// that is looked at. A channel that the record lacks, while a record and a template are in force, counts as
+/// 0 and is told, unless `avisado` tells that one was before; otherwise raises 9.
+std::int16_t CambiaEstado(RecordStore& s, int canal, bool& avisado);
 
-/// What `frm19` is to show of group `g`, from 1, under the analog reference `canalRef`. Does nothing and
-/// answers false beyond group 16. Raises 9 for a group that the template lacks, 13 for a count that is no
-/// number.
-bool EligeGrupo(RecordStore& s, int g, int canalRef);
+/// What `frm19` is to show of group `g`, from 1. Beyond group 16 fills nothing and answers false. Raises 9
+/// for a group that the template lacks, 13 for a count that is no number.
+bool EligeGrupo(RecordStore& s, int g);
 
 /// The digital channels of the template while they are chosen one by one. Groups count from 1 to 16, their
 /// channels from 1 to 19.
@@ -66,6 +65,7 @@ private:
     RecordStore& s_;
     std::array<Grupo16, kGrupos> grupos_;
     std::int16_t NumElegidos_ = 0;
+    bool avisado_ = false;  ///< a channel that the record lacks was told
 };
 
 }  // namespace veldix

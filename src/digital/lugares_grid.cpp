@@ -7,14 +7,14 @@ namespace veldix {
 namespace {
 
 constexpr int kColumnas = 8, kEtiquetas = 20;
-constexpr double kSolape = 16.0, kMargen = 120.0, kResto = 0.2;
+constexpr double kSolape = 16.0, kMargen = 120.0, kMenorResto = 2400.0;
 
 }  // namespace
 
 LugaresGrid ColocaGrid(const TamanoGrid& t)
 {
     LugaresGrid l;
-    l.anchoEtiqueta = std::min(t.alto / 7.0, (1.0 - kResto) * t.anchoInterior / kColumnas);
+    l.anchoEtiqueta = std::min(t.alto / 7.0, (t.anchoInterior - kMenorResto) / kColumnas);
     l.altoEtiqueta = std::min(t.ancho / 63.0, (t.altoInterior / 2.0 - kSolape) / kEtiquetas + kSolape);
     l.paso = l.altoEtiqueta - kSolape;
     const double izquierda = kColumnas * l.anchoEtiqueta + kMargen;

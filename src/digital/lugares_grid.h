@@ -22,7 +22,7 @@ struct LugaresGrid {
 };
 
 /// A label is a seventh of the window's height wide and a 63rd of its width high, but no larger than lets
-/// both bands stand inside the frame and leaves a fifth of the width for the rest.
+/// both bands stand inside the frame and leaves 2400 twips of its width for the rest.
 LugaresGrid ColocaGrid(const TamanoGrid& t);
 
 }  // namespace veldix

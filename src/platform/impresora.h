@@ -44,7 +44,7 @@ public:
     /// Segments between consecutive points, in the present line width.
     virtual void Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color) = 0;
 
-    /// Fills the rectangle between two opposite corners.
+    /// Fills the rectangle between two opposite corners, which is no narrower than a line.
     virtual void Caja(double x1, double y1, double x2, double y2, std::uint32_t color) = 0;
 
     /// Nothing is drawn outside the rectangle until QuitaRecorte.

@@ -13,10 +13,11 @@ namespace veldix {
 /// cut there. Raises 9 for more lines, and what reading a file raises.
 std::vector<std::string> LeeCabecera(const std::string& ruta);
 
-/// Prints the lines as they are, one under the other in the printer's letters of one width on as many pages
-/// as they need, and an empty one behind the last. `cancelada` is asked before each line: once it answers
-/// true the document is dropped and nothing more is printed.
-void ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas,
+/// Prints the lines as they are, one under the other in letters of one width on as many pages as they need,
+/// and an empty one behind the last. Letters are made smaller, as far as they can be read, where the longest
+/// line asks for it; what runs over the frame all the same is cut, its cut marked. `cancelada` is asked
+/// before each line: once it answers true the document is dropped, and so it answers false.
+bool ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas,
                      const std::function<bool()>& cancelada);
 
 }  // namespace veldix

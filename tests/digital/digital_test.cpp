@@ -65,7 +65,8 @@ TEST(Eleccion, AChangeOfStateIsMissedOrOneOfTheLastSampleIsSeen)
                  {"1222", 0}, {"2212", 1}, {"01", 0},   {"0", 0}};
     for (const auto& c : casos) {
         RecordStore s = Registro({c.estados}, {});
-        EXPECT_EQ(CambiaEstado(s, 1), c.cambia) << c.estados;
+        bool avisado = false;
+        EXPECT_EQ(CambiaEstado(s, 1, avisado), c.cambia) << c.estados;
     }
 }
 
@@ -76,10 +77,12 @@ TEST(Eleccion, AChannelThatTheRecordLacksIsToldOnlyWithATemplateInForce)
         RecordStore s = Registro({"0110"}, {});
         s.PlantillaNoValida = true;
         cajas.Espera(Textos(246), Icono::Critico);
-        EXPECT_EQ(CambiaEstado(s, canal), 0);
+        bool avisado = false;
+        EXPECT_EQ(CambiaEstado(s, canal, avisado), 0);
         EXPECT_FALSE(s.PlantillaNoValida);
+        EXPECT_EQ(CambiaEstado(s, canal, avisado), 0) << "told once";
         s.PlantillaAplicada = false;
-        EXPECT_EQ(NumeroDeError([&] { CambiaEstado(s, canal); }), error::kSubindice);
+        EXPECT_EQ(NumeroDeError([&] { CambiaEstado(s, canal, avisado); }), error::kSubindice);
     }
 }
 
@@ -93,14 +96,14 @@ TEST(Eleccion, GroupsBeginBehindThoseBeforeThem)
         int grupo, primera, ultima, filas;
     } casos[] = {{1, 1, 3, 3}, {2, 4, 5, 2}, {8, 16, 15, 0}, {9, 16, 17, 2}, {16, 30, 31, 2}};
     for (const auto& c : casos) {
-        EXPECT_TRUE(EligeGrupo(s, c.grupo, 1));
-        EXPECT_EQ((std::vector<int>{s.DigPrimera, s.DigUltima, s.NumDigVista, s.ModoDigital, s.CanalRef}),
-                  (std::vector<int>{c.primera, c.ultima, c.filas, 1, 1}));
+        EXPECT_TRUE(EligeGrupo(s, c.grupo));
+        EXPECT_EQ((std::vector<int>{s.DigPrimera, s.DigUltima, s.NumDigVista, s.ModoDigital}),
+                  (std::vector<int>{c.primera, c.ultima, c.filas, 1}));
         EXPECT_EQ(s.NombreGrupoDig, "G" + std::to_string(c.grupo));
         EXPECT_EQ(static_cast<int>(FilasDigitales(s).size()), c.filas);
     }
     EXPECT_EQ(Filas(s), "D30=1 D31=2 ");
-    EXPECT_FALSE(EligeGrupo(s, 17, 1));
+    EXPECT_FALSE(EligeGrupo(s, 17));
     EXPECT_EQ(s.DigPrimera, 30) << "a group beyond the sixteenth fills nothing";
     EXPECT_EQ(NumeroDeError([&] { EleccionManual e(s); }), 0);
     EXPECT_FALSE(EleccionManual(s).Existe(1)) << "nor does any, by hand, where there are more";
@@ -216,7 +219,8 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
     RecordStore s =
         Registro({std::string(60, '0') + std::string(140, '1'), std::string(200, '0')}, {"2", "1"});
     s.FicheroDat = "/r/falta.dat";
-    EligeGrupo(s, 1, 1);
+    s.CanalRef = 1;
+    EligeGrupo(s, 1);
     constexpr double kRy = 11300.0 / 5000.0, kPaso = 2.0 * 15400.0 / 8600.0;
     const double banda = 1000.0 + 1200.0 * kRy, fila = (12300.0 - banda) / 23.0;
     for (const ModoColor modo : {ModoColor::Color, ModoColor::Monocromo}) {

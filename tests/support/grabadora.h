@@ -19,7 +19,8 @@ struct OperacionPagina {
     LetraPagina letra;
 };
 
-/// A printer of paper that logs what it is told. A character is 120 twips wide, a line 240 high at 9 points.
+/// A printer of paper that logs what it is told. A character is 120 twips wide, in letters of one
+/// width at 9 points, and a line 240 high at 9 points.
 class Grabadora : public Impresora {
 public:
     /// Width and height of the paper as it lies in landscape.
@@ -33,7 +34,10 @@ public:
     double Ancho() const override { return sentido == Orientacion::Horizontal ? ancho_ : alto_; }
     double Alto() const override { return sentido == Orientacion::Horizontal ? alto_ : ancho_; }
     ModoColor Color() const override { return color_; }
-    double AnchoTexto(const std::string& t) const override { return 120.0 * static_cast<double>(t.size()); }
+    double AnchoTexto(const std::string& t) const override
+    {
+        return (Letra.fija ? 120.0 * Letra.puntos / 9.0 : 120.0) * static_cast<double>(t.size());
+    }
     double AltoTexto() const override { return 240.0 * Letra.puntos / 9.0; }
     void Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color) override
     {

@@ -128,12 +128,14 @@ bool GrupoEtiquetas::Raton(int j, QEvent* evento)
 {
     const auto* raton = static_cast<QMouseEvent*>(evento);
     if (raton->button() != Qt::LeftButton) return false;
-    const bool sube = evento->type() == QEvent::MouseButtonRelease;
-    const int pulsada = std::exchange(pulsada_, evento->type() == QEvent::MouseButtonPress ? j : 0);
-    if (evento->type() == QEvent::MouseButtonDblClick)
+    QLabel* etiqueta = lblgrp_.at(static_cast<std::size_t>(j));
+    const bool baja = evento->type() == QEvent::MouseButtonPress;
+    const int pulsada = std::exchange(pulsada_, baja ? j : 0);
+    if (baja)
+        etiqueta->setFocus(Qt::MouseFocusReason);
+    else if (evento->type() == QEvent::MouseButtonDblClick)
         Q_EMIT DblClick(j);
-    else if (sube && pulsada == j &&
-             lblgrp_.at(static_cast<std::size_t>(j))->rect().contains(raton->position().toPoint()))
+    else if (pulsada == j && etiqueta->rect().contains(raton->position().toPoint()))
         Q_EMIT Click(j);
     return true;
 }
@@ -146,7 +148,7 @@ bool GrupoEtiquetas::Tecla(int j, int tecla)
             return true;
         case Qt::Key_Delete:
         case Qt::Key_Backspace:
-            Q_EMIT DblClick(j);
+            Q_EMIT Quita(j);
             return true;
         case Qt::Key_Up:
         case Qt::Key_Down:
@@ -168,8 +170,6 @@ bool GrupoEtiquetas::eventFilter(QObject* objeto, QEvent* evento)
     if (!etiqueta || !etiqueta->isEnabled() || j < 1) return QWidget::eventFilter(objeto, evento);
     switch (evento->type()) {
         case QEvent::MouseButtonPress:
-            etiqueta->setFocus(Qt::MouseFocusReason);
-            return Raton(j, evento);
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
             return Raton(j, evento);

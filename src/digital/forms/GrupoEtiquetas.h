@@ -11,7 +11,7 @@
 namespace veldix {
 
 /// The column of labels of one group: its name, and under it its channels. The pointer and the keys work on
-/// channels that are there: a click (space bar) and a double click (Delete); arrows move among them.
+/// channels that are there: a click (space bar), a double click, Delete; arrows move among them.
 class GrupoEtiquetas : public QWidget {
     Q_OBJECT
 
@@ -30,6 +30,8 @@ public:
 Q_SIGNALS:
     void Click(int j);
     void DblClick(int j);
+    /// The key that releases a channel.
+    void Quita(int j);
     /// An arrow to another group, `paso` groups away, from channel `j`.
     void Sale(int paso, int j);
 

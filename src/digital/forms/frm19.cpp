@@ -94,8 +94,12 @@ void frm19::ColocaControles()
         Pon(ventanilla_, {corte, 0.0, l->Picture1.Derecha() - corte, l->Picture1.alto});
         Pon(plot_, {l->Picture1.izquierda - corte, 0.0, l->Picture1.ancho, l->Picture1.alto});
     }
-    for (int n = 1; n <= kFilasDigital; ++n)
-        Pon(label->Etiqueta(n), l->label[static_cast<std::size_t>(n - 1)]);
+    for (int n = 1; n <= kFilasDigital; ++n) {
+        const Lugar& lugar = l->label[static_cast<std::size_t>(n - 1)];
+        Pon(label->Etiqueta(n), lugar);
+        label->Etiqueta(n)->setVisible(n <= static_cast<int>(filas_.size()) &&
+                                       lugar.Abajo() <= l->Picture1.alto);
+    }
     const std::pair<QWidget*, const Lugar*> lugares[] = {{analogicas_->Etiqueta(kLblanalog), &l->lblanalog},
                                                          {analogicas_->Etiqueta(kLblamar), &l->lblamar},
                                                          {analogicas_->Etiqueta(kLblcian), &l->lblcian},
@@ -119,6 +123,10 @@ void frm19::ColocaControles()
 
 void frm19::LlenaEtiquetas()
 {
+    for (BarraCursor* barra : {HScroll_Analog, HScroll_Nombres}) {
+        const QSignalBlocker calla(barra);  // all texts are shown whole
+        barra->setValue(0);
+    }
     const std::string valor = ValorReferencia(1);
     analogicas_->Pon(kLblanalog, EtiquetaCanal(store, store.CanalRef));
     analogicas_->Pon(kLblamar, valor);
@@ -142,8 +150,10 @@ void frm19::Rehace()
     LlenaEtiquetas();
     PonBarras(1, 1, ultima_);
     Cursor1 = Cursor2 = 1.0F;
+    PintaEjes();
+    PintaReferencia();
     PonGasolinoOndas(50);
-    Repinta();
+    PintaFilas();
     PonGasolinoOndas(70);
     for (LineaSobre* linea : {linea1_, linea2_})
         PonLinea(linea, XCursor(1.0F));
@@ -174,9 +184,14 @@ void frm19::PintaFilas()
 void frm19::Repinta()
 {
     PintaEjes();
+    PintaReferencia();
+    PintaFilas();
+}
+
+void frm19::PintaReferencia()
+{
     const PuntosCurva p = CurvaReferencia(store.Muestras, store.CanalRef, tramo_);
     plot_->Poligonal(p.PuntosX, p.PuntosY, ColorCurva(store.Colores, store.CanalRef));
-    PintaFilas();
 }
 
 /// What `ZoomPendiente` or the history asks for, both cursors on its first sample.

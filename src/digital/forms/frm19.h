@@ -39,6 +39,7 @@ private:
     void LlenaEtiquetas();
     void PintaDigital();
     void PintaEjes();
+    void PintaReferencia();
     void PintaFilas();
     void HScroll_Analog_Change();
     void HScroll_Nombres_Change();

@@ -98,6 +98,7 @@ void frmElecdig::cmdOK_Click()
 {
     hide();
     PonPunteros(this, Puntero::Propio);
+    store.CanalRef = static_cast<std::int16_t>(Frame1->CanalRef());
     const int g = GrupoElegido();
     if (g == 0) {
         PonPunteros(this, Puntero::Normal);
@@ -107,7 +108,7 @@ void frmElecdig::cmdOK_Click()
     }
     MuestraGasolinoOndas(Q(Textos(286)));
     PonGasolinoOndas(10);
-    EligeGrupo(store, g, Frame1->CanalRef());
+    EligeGrupo(store, g);
     Frame3->Aplica();
     Descarga();
     AbreVistaDigital();

@@ -21,6 +21,7 @@ frmGrid::frmGrid() : Vista(etiqueta::kGrid)
         auto* grupo = new GrupoEtiquetas(k, this);
         Conecta(grupo, &GrupoEtiquetas::Click, this, [k](frmGrid* f, int j) { f->grp_Click(k, j); });
         Conecta(grupo, &GrupoEtiquetas::DblClick, this, [k](frmGrid* f, int j) { f->grp_DblClick(k, j); });
+        Conecta(grupo, &GrupoEtiquetas::Quita, this, [k](frmGrid* f, int j) { f->grp_Quita(k, j); });
         Conecta(grupo, &GrupoEtiquetas::Sale, this,
                 [k](frmGrid* f, int paso, int j) { f->grp_Sale(k, paso, j); });
         grupos_.push_back(grupo);
@@ -102,19 +103,28 @@ void frmGrid::Rechaza()
 
 void frmGrid::grp_Click(int k, int j)
 {
+    pulsada_ = {k, j};
     if (eleccion_->Click(k, j))
         MuestraCanal(k, j);
     else
         Rechaza();
 }
 
-/// The message of the limit also answers a double click on a channel that the click before could not choose.
+/// A second press on another channel than the first is a click. The message of the limit also answers a
+/// double click on a channel that the click before could not choose.
 void frmGrid::grp_DblClick(int k, int j)
 {
-    if (eleccion_->DblClick(k, j))
+    if (pulsada_ != std::pair{k, j})
+        grp_Click(k, j);
+    else if (eleccion_->DblClick(k, j))
         MuestraCanal(k, j);
     else
         Rechaza();
+}
+
+void frmGrid::grp_Quita(int k, int j)
+{
+    if (eleccion_->DblClick(k, j)) MuestraCanal(k, j);
 }
 
 /// The next group in that direction that has channels.

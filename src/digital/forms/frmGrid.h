@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "digital/eleccion.h"
@@ -37,6 +38,7 @@ private:
     void ColocaEtiquetas();
     void grp_Click(int k, int j);
     void grp_DblClick(int k, int j);
+    void grp_Quita(int k, int j);
     void grp_Sale(int k, int paso, int j);
     void MuestraCanal(int k, int j);
     void Rechaza();
@@ -45,6 +47,7 @@ private:
 
     std::optional<EleccionManual> eleccion_;
     std::vector<GrupoEtiquetas*> grupos_;  ///< group k at k - 1
+    std::pair<int, int> pulsada_;          ///< group and channel of the last click
     QWidget* panel_;
     MarcoCanalRef* Frame1;
     MarcoReferencia* Frame3;

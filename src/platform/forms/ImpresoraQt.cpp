@@ -108,7 +108,10 @@ void ImpresoraQt::Poligonal(std::span<const double> xs, std::span<const double> 
 
 void ImpresoraQt::Caja(double x1, double y1, double x2, double y2, std::uint32_t color)
 {
-    Pintor().fillRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), QColor::fromRgb(color));
+    // As wide as a line at least, so that a state of one sample among thousands is seen.
+    const double ancho = std::max(std::abs(x2 - x1), Grosor * kTwipsPorPulgada / kGruesosPorPulgada);
+    const QRectF caja((x1 + x2 - ancho) / 2.0, std::min(y1, y2), ancho, std::abs(y2 - y1));
+    Pintor().fillRect(caja, QColor::fromRgb(color));
 }
 
 void ImpresoraQt::Escribe(double x, double y, const std::string& texto)

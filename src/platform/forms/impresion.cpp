@@ -62,16 +62,33 @@ std::optional<PeticionImpresion> MuestraDialogo(QSize tamano)
     return PeticionDe(impresora);
 }
 
-std::optional<PeticionImpresion> SinDialogo(QSize tamano)
-{
-    const QPrinterInfo predeterminada = QPrinterInfo::defaultPrinter();
-    if (predeterminada.isNull()) return MuestraDialogo(tamano);
-    QPrinter& impresora = ImpresoraDelPrograma();
-    impresora.setOutputFileName(QString());
-    impresora.setPrinterName(predeterminada.printerName());
-    impresora.setCopyCount(1);
-    return PeticionDe(impresora);
-}
+/// The program's printer sent to the system's default one for a scope; it goes back to where the user's last
+/// dialog had sent it.
+class EnPredeterminada {
+public:
+    explicit EnPredeterminada(const QPrinterInfo& predeterminada)
+        : impresora_(ImpresoraDelPrograma()),
+          nombre_(impresora_.printerName()),
+          fichero_(impresora_.outputFileName())
+    {
+        impresora_.setOutputFileName(QString());
+        impresora_.setPrinterName(predeterminada.printerName());
+        impresora_.setCopyCount(1);
+    }
+    ~EnPredeterminada()
+    {
+        impresora_.setPrinterName(nombre_);
+        if (!fichero_.isEmpty()) impresora_.setOutputFileName(fichero_);
+    }
+    EnPredeterminada(const EnPredeterminada&) = delete;
+    EnPredeterminada& operator=(const EnPredeterminada&) = delete;
+
+    PeticionImpresion Peticion() { return PeticionDe(impresora_); }
+
+private:
+    QPrinter& impresora_;
+    QString nombre_, fichero_;
+};
 
 void Imprime(const std::optional<PeticionImpresion>& peticion,
              const std::function<void(const PeticionImpresion&)>& trabajo)
@@ -97,7 +114,13 @@ void ConImpresora(QSize tamano, const std::function<void(const PeticionImpresion
 
 void ConImpresoraPredeterminada(QSize tamano, const std::function<void(const PeticionImpresion&)>& trabajo)
 {
-    Imprime(g_responde ? g_responde() : SinDialogo(tamano), trabajo);
+    const QPrinterInfo predeterminada = QPrinterInfo::defaultPrinter();
+    if (g_responde || predeterminada.isNull()) {
+        ConImpresora(tamano, trabajo);
+        return;
+    }
+    EnPredeterminada destino(predeterminada);
+    Imprime(destino.Peticion(), trabajo);
 }
 
 void PonDialogoImpresion(std::function<std::optional<PeticionImpresion>()> responde)

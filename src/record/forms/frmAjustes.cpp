@@ -31,7 +31,8 @@ frmAjustes::frmAjustes() : Vista(etiqueta::kAjustes)
     Lista1->setObjectName("Lista1");
     Lista1->setAccessibleName(windowTitle());
     Lista1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));  // headers are set in columns
-    Lista1->setUniformItemSizes(true);
+    Lista1->setTextElideMode(Qt::ElideNone);
+    Lista1->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     cmdImprimir = CreaBoton(this, "cmdImprimir", 57, "Imprimir");
     cmdImprimir->setIcon(IconoImprimir());
     Conecta(cmdImprimir, &QPushButton::clicked, this, &frmAjustes::cmdImprimir_Click);
@@ -93,7 +94,10 @@ void frmAjustes::cmdImprimir_Click()
         if (!viva) return;
         const std::vector<std::string> lineas = lineas_;  // the view may go meanwhile
         TurnoCancelar turno(*this);
-        ImprimeCabecera(*p.impresora, lineas, [&turno] { return turno.Cancelada(); });
+        for (int copia = 1; copia <= p.copias; ++copia) {
+            if (copia > 1) p.impresora->PaginaNueva();
+            if (!ImprimeCabecera(*p.impresora, lineas, [&turno] { return turno.Cancelada(); })) return;
+        }
     });
 }
 

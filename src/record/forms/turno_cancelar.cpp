@@ -23,8 +23,10 @@ bool TurnoCancelar::Cancelada()
 
 void TurnoCancelar::Activa(bool activa)
 {
+    if (vista_ && !activa && vista_->isEnabled()) foco_ = vista_->focusWidget();
     if (vista_) vista_->setEnabled(activa);
     ActivaSalir(activa);
+    if (vista_ && activa && foco_) foco_->setFocus();
 }
 
 }  // namespace veldix

@@ -24,6 +24,7 @@ private:
     void Activa(bool activa);
 
     QPointer<Vista> vista_;
+    QPointer<QWidget> foco_;  ///< what had the keys, which a disabled control loses
 };
 
 }  // namespace veldix

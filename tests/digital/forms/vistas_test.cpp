@@ -130,6 +130,9 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     EXPECT_EQ(Fondo(1, 1) + Elegidos(), azul + "0");
     Doble(1, 2);
     EXPECT_EQ(Fondo(1, 2) + Elegidos(), blanco + "0") << "the release behind a double click chose it again";
+    QTest::mouseDClick(Canal(1, 3), Qt::LeftButton);  // its first press went elsewhere
+    EXPECT_EQ(Elegidos(), "1");
+    Doble(1, 3);
     for (int j = 1; j <= 11; ++j)
         Clic(2, j);
     for (int j = 1; j <= 7; ++j)
@@ -143,6 +146,9 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     cajas.Espera(kLimite, Icono::Critico);
     cajas.Espera(kLimite, Icono::Critico);
     Doble(3, 9);
+    EXPECT_EQ(Elegidos(), "19");
+    QTest::keyClick(Canal(2, 10), Qt::Key_Right);
+    QTest::keyClick(Canal(3, 10), Qt::Key_Delete);
     EXPECT_EQ(Elegidos(), "19");
     QTest::keyClick(Canal(1, 3), Qt::Key_Delete);
     EXPECT_EQ(Fondo(1, 3) + Elegidos(), blanco + "18");
@@ -294,6 +300,7 @@ TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
     EXPECT_EQ(AbreGrupo(1), nullptr);
     EXPECT_TRUE(menuSolo());
     store.PlantillaAplicada = true;
+    store.CanalesDig(9).Numero = "-1";
     cajas.Espera(Textos(246), Icono::Critico);
     EXPECT_TRUE(AbreGrid());
     Pulsa("cmdcancel", frmGrid::unica.Cargado());

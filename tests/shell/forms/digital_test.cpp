@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -110,7 +111,9 @@ TEST_F(ViajeDigital, AHeaderIsListedAsItIsOrNotAtAll)
     std::string larga;
     for (int i = 1; i <= 2500; ++i)
         larga += "l" + std::to_string(i) + "\r\n";
-    EXPECT_TRUE(Lineas(Cabecera(larga)).ends_with("|l2500|"));
+    form = Cabecera(std::string(3000, 'w') + "\n" + larga.substr(4));
+    EXPECT_TRUE(Lineas(form).ends_with("|l2500|"));
+    EXPECT_GT(Hijo<QListWidget>("Lista1", form)->horizontalScrollBar()->maximum(), 5000) << "cannot be read";
     Pulsa("cmdSalir", nullptr);
     cajas->Espera("Error 9: Subscript out of range", Icono::Critico);
     EXPECT_EQ(Cabecera(larga + "\r\n"), nullptr);
@@ -139,7 +142,17 @@ TEST_F(ViajeDigital, AHeaderPrintsItsLinesAndOneMoreUnlessItIsCancelled)
     EXPECT_EQ(impresora->De(Tipo::Pagina).size(), 1U);
     EXPECT_EQ(impresora->sentido, Orientacion::Vertical) << "as the printer stands";
     EXPECT_TRUE(form->isEnabled() && !Cancelar::unica.Cargado());
+    EXPECT_EQ(principal->focusWidget(), Hijo<QPushButton>("cmdImprimir", form));
 
+    const auto ancha = [&](std::size_t letras) {
+        impresora->ops.clear();
+        Pulsa("cmdImprimir", Cabecera(std::string(letras, 'w')));
+        return impresora->De(Tipo::Texto).at(1);
+    };
+    const auto cabe = ancha(110), corta = ancha(400);
+    EXPECT_TRUE(cabe.texto.size() == 110 && cabe.letra.fija && cabe.letra.puntos < 9.0);
+    EXPECT_TRUE(corta.texto.ends_with("w…") && corta.letra.puntos == 6.0);
+    form = Cabecera(larga);
     impresora->ops.clear();
     QTimer::singleShot(0, form, [] { Cancelar::unica.Cargado()->close(); });
     Pulsa("cmdImprimir", form);
