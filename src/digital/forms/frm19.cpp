@@ -16,6 +16,7 @@ namespace {
 /// Places of the three texts of the reference among those that its bar scrolls.
 constexpr int kLblanalog = 1, kLblamar = 2, kLblcian = 3;
 constexpr int kPantallaEstrecha = 800;  // pixels
+constexpr int kLetraEstrecha = 75;      // percent
 
 std::string ValorReferencia(int muestra)
 {
@@ -88,22 +89,9 @@ void frm19::ColocaControles()
     t.revision97 = store.RevisionCfg == "1997";
     const auto l = ColocaDigital(t, Medidas(t.bajo - 2.0 * kHueco));
     if (!l) return;
-    const double corte = l->label[0].Derecha();
-    {
-        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
-        Pon(ventanilla_, {corte, 0.0, l->Picture1.Derecha() - corte, l->Picture1.alto});
-        Pon(plot_, {l->Picture1.izquierda - corte, 0.0, l->Picture1.ancho, l->Picture1.alto});
-    }
-    for (int n = 1; n <= kFilasDigital; ++n) {
-        const Lugar& lugar = l->label[static_cast<std::size_t>(n - 1)];
-        Pon(label->Etiqueta(n), lugar);
-        label->Etiqueta(n)->setVisible(n <= static_cast<int>(filas_.size()) &&
-                                       lugar.Abajo() <= l->Picture1.alto);
-    }
-    const std::pair<QWidget*, const Lugar*> lugares[] = {{analogicas_->Etiqueta(kLblanalog), &l->lblanalog},
-                                                         {analogicas_->Etiqueta(kLblamar), &l->lblamar},
-                                                         {analogicas_->Etiqueta(kLblcian), &l->lblcian},
-                                                         {HScroll_Analog, &l->HScroll_Analog},
+    ColocaPlot(*l);
+    ColocaTextos(*l, t.ancha);
+    const std::pair<QWidget*, const Lugar*> lugares[] = {{HScroll_Analog, &l->HScroll_Analog},
                                                          {HScroll_Nombres, &l->HScroll_Nombres},
                                                          {HScroll1, &l->HScroll1},
                                                          {HScroll2, &l->HScroll2},
@@ -119,6 +107,35 @@ void frm19::ColocaControles()
         etiqueta->setFont(font());
     PonBotonZoom(l->cmdzoom);
     PonReferencia(l->lbl_PS);
+}
+
+void frm19::ColocaPlot(const LugaresDigital& l)
+{
+    const double corte = l.label[0].Derecha();
+    const QSignalBlocker calla(plot_);  // it is drawn again by the caller
+    Pon(ventanilla_, {corte, 0.0, l.Picture1.Derecha() - corte, l.Picture1.alto});
+    Pon(plot_, {l.Picture1.izquierda - corte, 0.0, l.Picture1.ancho, l.Picture1.alto});
+}
+
+/// Names of rows that there are and that the plot has room for, and the texts of the reference; in condensed
+/// letters on a narrow screen.
+void frm19::ColocaTextos(const LugaresDigital& l, bool ancha)
+{
+    QFont letra = font();
+    if (!ancha) letra.setStretch(kLetraEstrecha);
+    const auto pon = [&letra](QLabel* etiqueta, const Lugar& lugar) {
+        etiqueta->setFont(letra);
+        Pon(etiqueta, lugar);
+    };
+    for (int n = 1; n <= kFilasDigital; ++n) {
+        const Lugar& lugar = l.label[static_cast<std::size_t>(n - 1)];
+        pon(label->Etiqueta(n), lugar);
+        label->Etiqueta(n)->setVisible(n <= static_cast<int>(filas_.size()) &&
+                                       lugar.Abajo() <= l.Picture1.alto);
+    }
+    pon(analogicas_->Etiqueta(kLblanalog), l.lblanalog);
+    pon(analogicas_->Etiqueta(kLblamar), l.lblamar);
+    pon(analogicas_->Etiqueta(kLblcian), l.lblcian);
 }
 
 void frm19::LlenaEtiquetas()

@@ -35,6 +35,8 @@ private:
     void CreaControles();
     void Form_Load();
     void ColocaControles();
+    void ColocaPlot(const LugaresDigital& l);
+    void ColocaTextos(const LugaresDigital& l, bool ancha);
     /// Texts of sample 1, and the names of the rows.
     void LlenaEtiquetas();
     void PintaDigital();
