@@ -220,6 +220,7 @@ TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
 
 TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
 {
+    store.RevisionCfg = "1997";
     frm19* v = AbreGrupo(1);
     ASSERT_TRUE(v && !menu);
     EXPECT_EQ(U(v->windowTitle()), "Canales Digitales GRUPO 1");
@@ -236,7 +237,7 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     Cursores(v, 600, 400);
     EXPECT_EQ(Texto("lblizq", v) + " " + Texto("lblder", v) + " " + Texto("lbltiempo", v),
               "600 400 200,000 ms");
-    EXPECT_EQ(Texto("lblcian", v), std::to_string(Valor(400, 1)) + ",000 A");
+    EXPECT_EQ(Texto("lblcian", v), std::to_string(2 * Valor(400, 1)) + ",000 A") << "no side was applied";
     Pulsa("cmdzoom", v);
     EXPECT_EQ(Estado(v), (std::vector{400, 400, 400, 600, 1, 2}));
     const double w = v->Plot()->Ancho(), paso = (w - 1400) / 200;
