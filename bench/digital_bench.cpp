@@ -2,10 +2,6 @@
 // of the whole view, a step of a cursor, and the search for channels that change state. Best times of several
 // rounds; the ratios are what counts.
 
-#include <QApplication>
-#include <QMainWindow>
-#include <QMdiArea>
-
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -13,7 +9,7 @@
 #include "digital/eleccion.h"
 #include "digital/forms/frm19.h"
 #include "medir.h"
-#include "platform/forms/escena.h"
+#include "ventana.h"
 #include "waves/colores.h"
 
 namespace {
@@ -126,16 +122,8 @@ void MideVista(const char* nombre)
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    InstalaEscena();
+    const VentanaBanco ventana(argc, argv);
     Registro();
-    QMainWindow principal;
-    escena.principal = &principal;
-    escena.area = new QMdiArea(&principal);
-    principal.setCentralWidget(escena.area);
-    principal.resize(1280, 800);
-    principal.show();
     store.CanalRef = 1;
     EligeGrupo(store, 1);
     bool iguales = true;
@@ -148,6 +136,5 @@ int main(int argc, char** argv)
     Estados(0);
     const double busca = Mejores({[] { const EleccionManual e(store); }}, 5)[0];
     std::printf("76 channels that never change looked through in %.1f ms\n", busca);
-    escena = {};
     return iguales ? 0 : 1;
 }

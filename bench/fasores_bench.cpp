@@ -1,10 +1,6 @@
 // The running DFT of the largest record and the steps of the view on top of it, each beside a plain baseline
 // of the same run. Best times of several rounds; the ratios are what counts.
 
-#include <QApplication>
-#include <QMainWindow>
-#include <QMdiArea>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -14,9 +10,9 @@
 #include "analysis/grupos.h"
 #include "analysis/modDFT.h"
 #include "medir.h"
-#include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
+#include "ventana.h"
 
 namespace {
 
@@ -160,13 +156,6 @@ private:
 
 void MideVista()
 {
-    QMainWindow principal;
-    auto* area = new QMdiArea(&principal);
-    principal.setCentralWidget(area);
-    principal.resize(1280, 800);
-    principal.show();
-    escena.principal = &principal;
-    escena.area = area;
     store.AnchoPantalla = 19200.0, store.AltoPantalla = 12000.0;
     const auto pinta = [] { QCoreApplication::processEvents(); };
     const double apertura = Mejores({[&] {
@@ -208,16 +197,13 @@ void MideVista()
                 pasos[0] / pasos[1]);
     frmFases::unica.Descarga();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    escena = {};
 }
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    InstalaEscena();
+    const VentanaBanco ventana(argc, argv);
     Registro();
     if (!Transformada()) return 1;
     MideVista();

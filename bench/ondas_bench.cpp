@@ -1,10 +1,7 @@
 // Redraws of the time-domain views on the longest record, a step of a cursor in each, and the curves beside
 // Qt's own polyline. Best times of several rounds; the ratios are what counts.
 
-#include <QApplication>
 #include <QBuffer>
-#include <QMainWindow>
-#include <QMdiArea>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPolygonF>
@@ -14,8 +11,8 @@
 
 #include "medir.h"
 #include "platform/forms/ImpresoraQt.h"
-#include "platform/forms/escena.h"
 #include "platform/vista.h"
+#include "ventana.h"
 #include "waves/forms/frmTodoanalog.h"
 #include "waves/forms/frmVerOndas.h"
 #include "waves/lugares_onda.h"
@@ -200,17 +197,8 @@ bool MideTodo()
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    InstalaEscena();
+    const VentanaBanco ventana(argc, argv);
     Registro();
-    QMainWindow principal;
-    escena.principal = &principal;
-    escena.area = new QMdiArea(&principal);
-    principal.setCentralWidget(escena.area);
-    principal.resize(1280, 800);
-    principal.show();
     const bool iguales = MideTodo();
-    escena = {};
     return iguales ? 0 : 1;
 }

@@ -28,8 +28,9 @@ std::string ValorReferencia(int muestra)
 Portador<frm19> frm19::unica;
 
 frm19::frm19()
-    : VistaOndas({"frm19", etiqueta::k19, "Picture1", "lnizq", "lnder", "lbltiempo", Icono::Informacion,
-                  Icono::Informacion})
+    : VistaCursores({"frm19", etiqueta::k19, "Picture1", "lnizq", "lnder", "lbltiempo", Icono::Informacion,
+                     Icono::Informacion},
+                    kMargenesDigital)
 {
     CreaControles();
     Conecta(analogicas_, &EtiquetasCorridas::Change, this, &frm19::HScroll_Analog_Change);
@@ -198,7 +199,7 @@ void frm19::PintaFilas()
     }
 }
 
-void frm19::Repinta()
+void frm19::PintaDigital()
 {
     PintaEjes();
     PintaReferencia();
@@ -211,22 +212,10 @@ void frm19::PintaReferencia()
     plot_->Poligonal(p.PuntosX, p.PuntosY, ColorCurva(store.Colores, store.CanalRef));
 }
 
-/// What `ZoomPendiente` or the history asks for, both cursors on its first sample.
-void frm19::PintaDigital()
+void frm19::PonNivel(const FilaZoom& nivel)
 {
-    const auto nivel = zoom_.Calcula(Cursor1, Cursor2, static_cast<float>(plot_->Ancho()));
-    if (!nivel) {
-        PonPuntero(this, Puntero::Normal);
-        Avisa(Textos(76), Icono::Informacion);
-        return;
-    }
-    const auto a = static_cast<std::int16_t>(nivel->s), b = static_cast<std::int16_t>(nivel->e);
-    tramo_ = {static_cast<std::int16_t>(nivel->MuestraInicial), b, nivel->EscalaX};
-    PonBarras(a, a, b);
-    Repinta();
-    HScroll1_Change();
-    HScroll2_Change();
-    zoom_.Guarda(*nivel);
+    tramo_ = {static_cast<std::int16_t>(nivel.MuestraInicial), static_cast<std::int16_t>(nivel.e),
+              nivel.EscalaX};
 }
 
 double frm19::XCursor(float cursor) const
@@ -246,13 +235,6 @@ std::optional<HojaOndas> frm19::Hoja(Impresora& impresora)
 {
     return HojaDigital(store, impresora, {plot_->Ancho(), plot_->Alto(), tramo_, filas_},
                        {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
-}
-
-void frm19::cmdzoom_Click()
-{
-    zoom_.ZoomPendiente = true;
-    const PunteroEspera espera(*this);
-    PintaDigital();
 }
 
 void frm19::HScroll_Analog_Change()

@@ -3,14 +3,13 @@
 #include "digital/lugares_digital.h"
 #include "digital/plot_digital.h"
 #include "platform/forms/EtiquetasCorridas.h"
-#include "waves/forms/VistaOndas.h"
-#include "waves/zoom_cursores.h"
+#include "waves/forms/VistaCursores.h"
 
 namespace veldix {
 
 /// Up to nineteen digital channels as bars of state, a row each, under one analog reference. Its zoom is made
 /// between the cursors.
-class frm19 : public VistaOndas {
+class frm19 : public VistaCursores {
     Q_OBJECT
 
 public:
@@ -18,18 +17,14 @@ public:
     frm19();
     static Portador<frm19> unica;
 
-    const ZoomCursores& Zoom() const { return zoom_; }
-
 protected:
     void Form_Unload() override;
     void Rehace() override;
-    void Redibuja() override { PintaDigital(); }
-    void Repinta() override;
-    HistoriaZoom& Historia() override { return zoom_; }
+    void PonNivel(const FilaZoom& nivel) override;
+    void Repinta() override { PintaDigital(); }
     double XCursor(float cursor) const override;
     void PonTextos(int cursor) override;
     std::optional<HojaOndas> Hoja(Impresora& impresora) override;
-    void cmdzoom_Click() override;
 
 private:
     void CreaControles();
@@ -39,6 +34,7 @@ private:
     void ColocaTextos(const LugaresDigital& l, bool ancha);
     /// Texts of sample 1, and the names of the rows.
     void LlenaEtiquetas();
+    /// Axes, reference and rows of the stretch in view.
     void PintaDigital();
     void PintaEjes();
     void PintaReferencia();
@@ -55,7 +51,6 @@ private:
 
     std::vector<FilaDigital> filas_;
     TramoDigital tramo_;
-    ZoomCursores zoom_{kMargenesDigital};
 };
 
 }  // namespace veldix

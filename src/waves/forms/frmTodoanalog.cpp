@@ -18,9 +18,9 @@ constexpr int kEtiquetas = 16;  // two a channel
 Portador<frmTodoanalog> frmTodoanalog::unica;
 
 frmTodoanalog::frmTodoanalog()
-    : VistaOndas({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", "lblms", Icono::Critico,
-                  Icono::Ninguno}),
-      zoom_(kMargenesBandas)
+    : VistaCursores({"frmTodoanalog", etiqueta::kTodoanalog, "Picture1", "lnam", "lnci", "lblms",
+                     Icono::Critico, Icono::Ninguno},
+                    kMargenesBandas)
 {
     CreaControles();
     Conecta(lblet, &EtiquetasCorridas::Change, this, &frmTodoanalog::HScroll_Nombres_Change);
@@ -141,25 +141,13 @@ void frmTodoanalog::Repinta()
         Curvas(1, ultima_, EscalaCurva);
 }
 
-void frmTodoanalog::Redibuja()
+void frmTodoanalog::PonNivel(const FilaZoom& nivel)
 {
-    const auto fila = zoom_.Calcula(Cursor1, Cursor2, static_cast<float>(plot_->Ancho()));
-    if (!fila) {
-        PonPuntero(this, Puntero::Normal);
-        Avisa(Textos(76), Icono::Informacion);
-        return;
-    }
-    tramo_ = fila;
-    EscalaX = fila->EscalaX;
-    MuestraInicial = fila->MuestraInicial;
-    EscalaCurva = EscalaTramo(fila->Ancho, fila->s, fila->e);
+    tramo_ = nivel;
+    EscalaX = nivel.EscalaX;
+    MuestraInicial = nivel.MuestraInicial;
+    EscalaCurva = EscalaTramo(nivel.Ancho, nivel.s, nivel.e);
     bandas_ = ColocaBandas(store, canales_, static_cast<float>(plot_->Alto()));
-    Repinta();
-    const int s = static_cast<int>(fila->s), e = static_cast<int>(fila->e);
-    PonBarras(s, s, e);
-    HScroll1_Change();
-    HScroll2_Change();
-    zoom_.Guarda(*fila);
 }
 
 double frmTodoanalog::XCursor(float cursor) const
@@ -188,13 +176,6 @@ std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)
     return HojaDeTodo(store, impresora, bandas_, zoom_.Fila(zoom_.NivelZoom),
                       static_cast<float>(plot_->Alto()),
                       {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
-}
-
-void frmTodoanalog::cmdzoom_Click()
-{
-    zoom_.ZoomPendiente = true;
-    const PunteroEspera espera(*this);
-    Redibuja();
 }
 
 void frmTodoanalog::HScroll_Nombres_Change()

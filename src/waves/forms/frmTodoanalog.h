@@ -4,14 +4,13 @@
 
 #include "platform/forms/EtiquetasCorridas.h"
 #include "waves/bandas.h"
-#include "waves/forms/VistaOndas.h"
+#include "waves/forms/VistaCursores.h"
 #include "waves/lugares_todo.h"
-#include "waves/zoom_cursores.h"
 
 namespace veldix {
 
 /// All chosen channels in one plot, a band each, over one time axis. Its zoom is made between the cursors.
-class frmTodoanalog : public VistaOndas {
+class frmTodoanalog : public VistaCursores {
     Q_OBJECT
 
 public:
@@ -19,18 +18,14 @@ public:
     frmTodoanalog();
     static Portador<frmTodoanalog> unica;
 
-    const ZoomCursores& Zoom() const { return zoom_; }
-
 protected:
     void Form_Unload() override;
     void Rehace() override;
-    void Redibuja() override;
+    void PonNivel(const FilaZoom& nivel) override;
     void Repinta() override;
-    HistoriaZoom& Historia() override { return zoom_; }
     double XCursor(float cursor) const override;
     void PonTextos(int cursor) override;
     std::optional<HojaOndas> Hoja(Impresora& impresora) override;
-    void cmdzoom_Click() override;
 
 private:
     void CreaControles();
@@ -48,7 +43,6 @@ private:
 
     std::vector<int> canales_;  ///< rows of `Canales`, a band each
     Bandas bandas_;
-    ZoomCursores zoom_;
     std::optional<FilaZoom> tramo_;  ///< that a zoom shows, none at 1:1
     float EscalaX = 0.0F;            ///< twips a sample of the cursor lines
     float EscalaCurva = 0.0F;        ///< of the curves, which differs after a zoom

@@ -95,18 +95,6 @@ protected:
         std::ranges::copy_if(ops, std::back_inserter(suyas), [&](const auto& o) { return o.tipo == tipo; });
         return suyas;
     }
-    static void Cursores(frm19* v, int c1, int c2)
-    {
-        Da<QScrollBar>("HScroll1", v)->setValue(c1);
-        Da<QScrollBar>("HScroll2", v)->setValue(c2);
-    }
-    /// Range of the bars, both cursors, level and levels.
-    static std::vector<int> Estado(frm19* v)
-    {
-        const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
-        return {una->minimum(),  una->value(),        otra->value(),
-                otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
-    }
     using Tipo = OperacionLienzo::Tipo;
 };
 

@@ -12,7 +12,7 @@
 #include "platform/textos.h"
 #include "record/record_store.h"
 #include "support/soporte.h"
-#include "waves/forms/VistaOndas.h"
+#include "waves/forms/VistaCursores.h"
 
 namespace veldix::prueba {
 
@@ -132,6 +132,18 @@ protected:
             v->Ventana().resize(v->Ventana().width() + pixeles, v->Ventana().height());
             Asienta();
         }
+    }
+    static void Cursores(VistaOndas* v, int c1, int c2)
+    {
+        Da<QScrollBar>("HScroll1", v)->setValue(c1);
+        Da<QScrollBar>("HScroll2", v)->setValue(c2);
+    }
+    /// Range of the bars, both cursors, level and levels.
+    static std::vector<int> Estado(VistaCursores* v)
+    {
+        const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
+        return {una->minimum(),  una->value(),        otra->value(),
+                otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
     }
     static double LineaX(const char* nombre, VistaOndas* v) { return 15.0 * Da<LineaSobre>(nombre, v)->x(); }
 

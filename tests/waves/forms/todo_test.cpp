@@ -20,18 +20,6 @@ protected:
         Pulsa("cmdtodo", frmNewOndas::unica.Cargado());
         return frmTodoanalog::unica.Cargado();
     }
-    static void Cursores(frmTodoanalog* v, int c1, int c2)
-    {
-        Da<QScrollBar>("HScroll1", v)->setValue(c1);
-        Da<QScrollBar>("HScroll2", v)->setValue(c2);
-    }
-    /// Range of the bars, both cursors, level and levels.
-    static std::vector<int> Estado(frmTodoanalog* v)
-    {
-        const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
-        return {una->minimum(),  una->value(),        otra->value(),
-                otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
-    }
 };
 
 TEST_F(TodoTest, NoChoiceIsToldAndTheDialogComesBack)
