@@ -50,7 +50,7 @@ void Registro()
     store.AnchoPantalla = 19200.0, store.AltoPantalla = 12000.0;
 }
 
-/// The rows alone: a box a run, and a box a sample as the states are told. False where a pixel differs.
+/// The rows alone: a box a run, and one box a sample. False where a pixel differs.
 bool MideFilas(const char* nombre)
 {
     Lienzo junta, suelta;

@@ -12,6 +12,7 @@
 #include "digital/lugares_digital.h"
 #include "digital/pagina_digital.h"
 #include "platform/avisos.h"
+#include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "platform/vista.h"
@@ -147,50 +148,51 @@ bool ImprimeGrupos(Informe& informe, const Consola& consola)
     return true;
 }
 
-/// A digital group as its view would hold it.
-void ImprimeGrupo(Informe& informe)
+/// A digital group as its view would hold it. Raises 9 for more channels than that has rows, and what their
+/// reading raises.
+HojaOndas HojaDeGrupo(Informe& informe, int g)
 {
+    store.CanalRef = static_cast<std::int16_t>(informe.canales.front());
+    if (!EligeGrupo(store, g) || store.NumDigVista > kFilasDigital) Lanza(error::kSubindice);
     const FilaZoom registro = ZoomCursores(kMargenesDigital).Reinicia(kAnchoPantalla, Ultima());
     const PlotDigital plot{
         kAnchoPantalla, kAltoDigital, {0, Ultima(), registro.EscalaX}, FilasDigitales(store)};
-    const HojaOndas hoja = HojaDigital(store, informe.impresora, plot, DatosDe(informe, ""));
-    informe.Pagina();
-    ImprimeHoja(informe.impresora, hoja);
+    return HojaDigital(store, informe.impresora, plot, DatosDe(informe, ""));
 }
 
 /// Each digital group of the template under the first of the chosen channels. One that no view can show is
-/// told and left out, for the sake of the other pages.
+/// named and left out, for the sake of the other pages.
 void ImprimeDigitales(Informe& informe, const Consola& consola)
 {
-    if (store.NumGruposDig > 0 && informe.canales.empty()) {
+    if (store.NumGruposDig > 0 && informe.canales.empty())
         Avisa(consola.espanol ? "Sin canales analógicos no hay páginas de canales digitales."
                               : "There are no pages of digital channels without analog channels.");
-        return;
-    }
-    for (int g = 1; g <= store.NumGruposDig; ++g) {
-        store.CanalRef = static_cast<std::int16_t>(informe.canales.front());
-        if (EligeGrupo(store, g) && store.NumDigVista <= kFilasDigital)
-            ImprimeGrupo(informe);
-        else
-            Avisa((consola.espanol ? "Grupo digital sin página (más de 19 canales o de 16 grupos): "
-                                   : "Digital group without a page (over 19 channels or 16 groups): ") +
-                  store.GruposDig(g).Nombre);
-    }
+    for (int g = 1; g <= store.NumGruposDig && !informe.canales.empty(); ++g)
+        try {
+            const HojaOndas hoja = HojaDeGrupo(informe, g);
+            informe.Pagina();
+            ImprimeHoja(informe.impresora, hoja);
+        } catch (const ErrorEjecucion& e) {
+            Avisa((consola.espanol ? "Grupo digital sin página, error "
+                                   : "Digital group without a page, error ") +
+                  FormaDelimitada(e.numero) + ": " + store.GruposDig(g).Nombre);
+        }
 }
 
-/// The header file, where the record has one. A failure is told, and the other pages stay.
-void ImprimeHdr(Informe& informe)
+/// The header file, where the record has one. One that cannot be listed is named and left out.
+void ImprimeHdr(Informe& informe, const Consola& consola)
 {
     if (store.FicheroHdr.empty()) return;
     std::vector<std::string> lineas;
     try {
         lineas = LeeCabecera(store.FicheroHdr);
     } catch (const ErrorEjecucion& e) {
-        Avisa(store.FicheroHdr + ": " + e.descripcion);
+        Avisa((consola.espanol ? "Cabecera sin página, error " : "Header without a page, error ") +
+              FormaDelimitada(e.numero) + ": " + store.FicheroHdr);
         return;
     }
     informe.Pagina();
-    ImprimeCabecera(informe.impresora, lineas, [] { return false; });
+    ImprimeCabecera(informe.impresora, lineas, FechaImpresion(), [] { return false; });
 }
 
 /// What is to be printed, from the words of the command. False, after a message, where the record lacks it.
@@ -248,7 +250,7 @@ Salida OrdenReport(const Argumentos& a, const Consola& consola)
         return Salida::Fallida;
     }
     if (plantilla) ImprimeDigitales(informe, consola);
-    ImprimeHdr(informe);
+    ImprimeHdr(informe, consola);
     if (!informe.empezado) {
         Avisa(consola.espanol ? "No hay nada que imprimir." : "There is nothing to print.");
         return Salida::Fallida;

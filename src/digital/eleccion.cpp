@@ -13,9 +13,12 @@ namespace {
 
 constexpr int kFilasElegidos = 98;
 
+/// Raises 9 for fewer than none: the groups behind it would show other channels than their own.
 std::int16_t CuentaDe(const RecordStore& s, int g)
 {
-    return Entero16Local(s.GruposDig(g).Cuenta);
+    const std::int16_t cuenta = Entero16Local(s.GruposDig(g).Cuenta);
+    if (cuenta < 0) Lanza(error::kSubindice);
+    return cuenta;
 }
 
 /// A fresh table whose first cell is the last row in use.
@@ -86,7 +89,7 @@ std::size_t EleccionManual::Sitio(int k)
 /// Takes the channels of a group from row `primera` of `CanalesDig` on; the row behind its last one.
 int EleccionManual::LlenaGrupo(int k, int primera)
 {
-    Grupo16& g = grupos_[Sitio(k)];
+    GrupoElegible& g = grupos_[Sitio(k)];
     const int cuenta = CuentaDe(s_, k);
     g.existe = true;
     g.nombre = s_.GruposDig(k).Nombre;
@@ -102,21 +105,33 @@ int EleccionManual::LlenaGrupo(int k, int primera)
     return primera + cuenta;
 }
 
+std::size_t EleccionManual::SitioCanal(int k, int j) const
+{
+    if (j < 1 || j > Cuenta(k)) Lanza(error::kSubindice);
+    return static_cast<std::size_t>(j - 1);
+}
+
 const std::string& EleccionManual::Canal(int k, int j) const
 {
-    return grupos_[Sitio(k)].nombres.at(static_cast<std::size_t>(j - 1));
+    return grupos_[Sitio(k)].nombres[SitioCanal(k, j)];
 }
 
 EleccionManual::Fondo EleccionManual::FondoDe(int k, int j) const
 {
-    const Grupo16& g = grupos_[Sitio(k)];
-    return g.SelGrupo(j) == 1 ? Fondo::Elegido : g.ColorEtiqueta.at(static_cast<std::size_t>(j - 1));
+    const GrupoElegible& g = grupos_[Sitio(k)];
+    return g.SelGrupo(j) == 1 ? Fondo::Elegido : g.ColorEtiqueta[SitioCanal(k, j)];
+}
+
+std::int16_t& EleccionManual::Elegido(int k, int j)
+{
+    static_cast<void>(SitioCanal(k, j));
+    return grupos_[Sitio(k)].SelGrupo(j);
 }
 
 /// One that is chosen is released first, so that it can be chosen again beside eighteen others.
 bool EleccionManual::Click(int k, int j)
 {
-    std::int16_t& elegido = grupos_[Sitio(k)].SelGrupo(j);
+    std::int16_t& elegido = Elegido(k, j);
     if (elegido == 1) DblClick(k, j);
     if (NumElegidos_ >= kMayor) return false;
     ++NumElegidos_;
@@ -126,7 +141,7 @@ bool EleccionManual::Click(int k, int j)
 
 bool EleccionManual::DblClick(int k, int j)
 {
-    std::int16_t& elegido = grupos_[Sitio(k)].SelGrupo(j);
+    std::int16_t& elegido = Elegido(k, j);
     if (elegido != 1) return false;
     elegido = 0;
     --NumElegidos_;
@@ -136,7 +151,7 @@ bool EleccionManual::DblClick(int k, int j)
 int EleccionManual::CuentaElegidos() const
 {
     int cuenta = 0;
-    for (const Grupo16& g : grupos_)
+    for (const GrupoElegible& g : grupos_)
         for (int j = 1; j <= g.SelGrupo(0); ++j)
             cuenta += g.SelGrupo(j);
     return cuenta;
@@ -147,8 +162,7 @@ void EleccionManual::Entrega() const
     s_.DigPrimera = s_.DigUltima = 0;
     PonElegidos(s_, CuentaElegidos() + 1);
     int n = 2, base = 0;
-    for (const Grupo16& g : grupos_) {
-        if (g.SelGrupo(0) <= 0) continue;
+    for (const GrupoElegible& g : grupos_) {
         for (int j = 1; j <= g.SelGrupo(0); ++j)
             if (g.SelGrupo(j) == 1) s_.DigElegidos(n++) = s_.CanalesDig(base + j);
         base += g.SelGrupo(0);

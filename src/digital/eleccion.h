@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "digital/plot_digital.h"
 #include "record/record_store.h"
 
 namespace veldix {
@@ -19,23 +20,25 @@ std::int16_t CambiaEstado(RecordStore& s, int canal, bool& avisado);
 bool EligeGrupo(RecordStore& s, int g);
 
 /// The digital channels of the template while they are chosen one by one. Groups count from 1 to 16, their
-/// channels from 1 to 19.
+/// channels from 1 to their count; what asks for others raises 9.
 class EleccionManual {
 public:
-    static constexpr int kGrupos = 16, kCanales = 19, kMayor = 19;
+    static constexpr int kGrupos = 16, kCanales = 19;  ///< that have labels
+    static constexpr int kMayor = kFilasDigital;       ///< that can be chosen
 
     /// Background of a channel's label.
     enum class Fondo { Ventana, Cambia, Elegido };
 
     /// Takes the groups of the working set and looks for channels that change state. Over sixteen groups
-    /// none is taken. Raises 9 for a group of over nineteen channels, 13 for a count or a channel that is no
-    /// number.
+    /// none is taken. Raises 9 for a group of over nineteen channels or fewer than none, 13 for a count or a
+    /// channel that is no number. The store must outlive it.
     explicit EleccionManual(RecordStore& s);
 
-    /// Name of a group, empty where there is none; its count of channels.
-    const std::string& Grupo(int k) const { return grupos_[Sitio(k)].nombre; }
+    /// Whether the template has a group; its name, and its count of channels.
     bool Existe(int k) const { return grupos_[Sitio(k)].existe; }
+    const std::string& Grupo(int k) const { return grupos_[Sitio(k)].nombre; }
     int Cuenta(int k) const { return grupos_[Sitio(k)].SelGrupo(0); }
+    /// Name and background of a channel.
     const std::string& Canal(int k, int j) const;
     Fondo FondoDe(int k, int j) const;
     int NumElegidos() const { return NumElegidos_; }
@@ -51,7 +54,7 @@ public:
     void Entrega() const;
 
 private:
-    struct Grupo16 {
+    struct GrupoElegible {
         bool existe = false;
         std::string nombre;
         /// 0 to count + 1: element 0 the count, element j 1 where channel j is chosen; 0 to 0 for no group.
@@ -60,10 +63,12 @@ private:
         std::vector<Fondo> ColorEtiqueta;  ///< what a channel, from 0, goes back to when it is released
     };
     static std::size_t Sitio(int k);
+    std::size_t SitioCanal(int k, int j) const;
+    std::int16_t& Elegido(int k, int j);
     int LlenaGrupo(int k, int primera);
 
     RecordStore& s_;
-    std::array<Grupo16, kGrupos> grupos_;
+    std::array<GrupoElegible, kGrupos> grupos_;
     std::int16_t NumElegidos_ = 0;
     bool avisado_ = false;  ///< a channel that the record lacks was told
 };

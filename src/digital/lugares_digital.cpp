@@ -37,7 +37,7 @@ void ColocaBarras(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& 
     l.HScroll2 = {l.HScroll1.Derecha() + kHueco, arriba, cuarto, m.altoBarra};
     l.lblizq = {l.HScroll1.izquierda, debajo, m.anchoNumero, m.altoEtiqueta};
     l.lblder = {l.HScroll2.izquierda, debajo, m.anchoNumero, m.altoEtiqueta};
-    const double tiempo = std::min(m.anchoTiempo, cuarto - m.anchoNumero);
+    const double tiempo = std::clamp(cuarto - m.anchoNumero, 0.0, m.anchoTiempo);
     l.lbltiempo = {l.HScroll2.Derecha() - tiempo, debajo, tiempo, m.altoEtiqueta};
 }
 

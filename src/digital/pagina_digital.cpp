@@ -29,7 +29,8 @@ void PonCabecera(HojaOndas& h, RedactorHoja& r, const RecordStore& s, const Dato
     const double x = r.Izquierda(), fin = r.PonTitulo(Rotulo(47, "Canales Digitales "),
                                                       EnGrupo(s) ? s.NombreGrupoDig : "", d.fecha);
     std::string raya;
-    while (r.Ancho(raya, kNormal) < fin - x)
+    const double par = r.Ancho("__", kNormal);
+    for (double ancho = 0.0; par > 0.0 && ancho < fin - x; ancho += par)
         raya += "__";
     r.Pon(x, r.Fila(0), raya, kNormal);
     r.PonPar(x, r.Fila(1), "Fichero origen : ", s.FicheroDat);
@@ -60,7 +61,8 @@ void PonFilas(HojaOndas& h, RedactorHoja& r, const RecordStore& s, const PlotDig
     const double banda = plot.arriba + kBandaAnalog * ry, fila = (plot.abajo - banda) / kFilasPagina;
     const std::uint32_t color = r.Color(ColorPaleta(kColorEstado));
     const auto estados = EstadosDigitales(s.MuestrasDig, p.filas, p.tramo);
-    for (std::size_t n = 0; n < p.filas.size(); ++n) {
+    // The plot of a low window has room for the reference alone.
+    for (std::size_t n = 0; fila > 0.0 && n < p.filas.size(); ++n) {
         const double base = banda + (static_cast<double>(n) + 2.0) * fila;
         h.dentro.push_back({plot.izquierda, base, plot.derecha, base});
         r.Pon(Margen(h), base - r.Alto(kPequena), r.Cabe(p.filas[n].nombre, AnchoTextos(h), kPequena),

@@ -17,6 +17,14 @@ constexpr std::size_t kMayorLineas = 2500, kMayorLinea = 4096, kTabulador = 8;
 constexpr double kMenorLetra = 6.0;  // points
 constexpr double kHolgura = 1e-6;    // of a letter, so that the longest line fits that was measured
 
+/// U+0080 to U+009F, and the separators of lines and paragraphs.
+bool EsControl(std::string_view caracter)
+{
+    return (caracter.size() == 2 && caracter[0] == '\xC2' &&
+            static_cast<unsigned char>(caracter[1]) < 0xA0) ||
+           caracter == "\u2028" || caracter == "\u2029";
+}
+
 std::string SinControles(std::string_view linea)
 {
     std::string s;
@@ -26,7 +34,7 @@ std::string SinControles(std::string_view linea)
         const auto c = static_cast<unsigned char>(linea.front());
         if (c == '\t')
             s.append(kTabulador - columna % kTabulador, ' ');
-        else if (c < 0x20 || c == 0x7F)
+        else if (c < 0x20 || c == 0x7F || EsControl(linea.substr(0, n)))
             s += ' ';
         else
             s.append(linea.substr(0, n));
@@ -43,17 +51,57 @@ std::string Corta(const std::string& linea, std::size_t n)
     return std::string(Izquierda(linea, n > 0 ? n - 1 : 0)) + "…";
 }
 
-/// Makes the letters small enough for the longest line, within bounds; how many of them a line then has room
-/// for.
-std::size_t AjustaLetra(Impresora& impresora, const std::vector<std::string>& lineas, double ancho)
-{
-    std::size_t largo = 1;
-    for (const std::string& linea : lineas)
-        largo = std::max(largo, NumCaracteres(linea));
-    const double pide = impresora.AnchoTexto("A") * static_cast<double>(largo);
-    if (pide > ancho) impresora.Letra.puntos = std::max(kMenorLetra, impresora.Letra.puntos * ancho / pide);
-    return static_cast<std::size_t>(std::max(0.0, ancho / impresora.AnchoTexto("A") + kHolgura));
-}
+/// Lines on pages, in letters small enough for the longest one, within bounds.
+class Paginador {
+public:
+    Paginador(Impresora& impresora, const std::vector<std::string>& lineas)
+        : impresora_(impresora),
+          antes_(impresora.Letra),
+          hoja_(MarcoPagina(impresora.Ancho(), impresora.Alto()))
+    {
+        impresora_.Letra = {antes_.puntos, false, true};
+        x_ = hoja_.izquierda + impresora_.AnchoTexto("AA");
+        std::size_t largo = 1;
+        for (const std::string& linea : lineas)
+            largo = std::max(largo, NumCaracteres(linea));
+        const double ancho = hoja_.derecha - x_;
+        const double pide = impresora_.AnchoTexto("A") * static_cast<double>(largo);
+        if (pide > ancho) impresora_.Letra.puntos = std::max(kMenorLetra, antes_.puntos * ancho / pide);
+        caben_ = static_cast<std::size_t>(std::max(0.0, ancho / impresora_.AnchoTexto("A") + kHolgura));
+        alto_ = impresora_.AltoTexto();
+        y_ = hoja_.arriba;
+    }
+    ~Paginador() { impresora_.Letra = antes_; }
+    Paginador(const Paginador&) = delete;
+    Paginador& operator=(const Paginador&) = delete;
+
+    /// A page begins with its first text, so that blank lines at the end leave none white.
+    void Pon(const std::string& linea, const std::string& fecha)
+    {
+        const double pie = hoja_.abajo - alto_;
+        if (y_ + alto_ > pie) {
+            ++pendientes_;
+            y_ = hoja_.arriba;
+            fechada_ = false;
+        }
+        if (!linea.empty()) {
+            for (; pendientes_ > 0; --pendientes_)
+                impresora_.PaginaNueva();
+            if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, pie, fecha);
+        }
+        if (pendientes_ == 0) EscribeEn(impresora_, x_, y_, Corta(linea, caben_));
+        y_ += alto_;
+    }
+
+private:
+    Impresora& impresora_;
+    LetraPagina antes_;
+    Marco hoja_;
+    double x_ = 0.0, y_ = 0.0, alto_ = 0.0;
+    std::size_t caben_ = 0;  ///< characters of a line
+    int pendientes_ = 0;     ///< pages to begin before the next text
+    bool fechada_ = false;   ///< the page has its date
+};
 
 }  // namespace
 
@@ -69,30 +117,18 @@ std::vector<std::string> LeeCabecera(const std::string& ruta)
     return lineas;
 }
 
-bool ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas,
+bool ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas, const std::string& fecha,
                      const std::function<bool()>& cancelada)
 {
-    const Marco hoja = MarcoPagina(impresora.Ancho(), impresora.Alto());
-    const LetraPagina antes = std::exchange(impresora.Letra, {impresora.Letra.puntos, false, true});
-    const double x = hoja.izquierda + impresora.AnchoTexto("AA");
-    const std::size_t caben = AjustaLetra(impresora, lineas, hoja.derecha - x);
-    const double alto = impresora.AltoTexto();
-    double y = hoja.arriba;
-    bool sigue = true;
-    for (std::size_t i = 0; sigue && i <= lineas.size(); ++i, y += alto) {
-        sigue = !cancelada();
-        if (!sigue) break;
-        const std::string linea = i < lineas.size() ? Corta(lineas[i], caben) : "";
-        // Nothing but a text begins a page, so that no page is left white.
-        if (!linea.empty() && y + alto > hoja.abajo) {
-            impresora.PaginaNueva();
-            y = hoja.arriba;
+    Paginador paginas(impresora, lineas);
+    for (std::size_t i = 0; i <= lineas.size(); ++i) {
+        if (cancelada()) {
+            impresora.Anula();
+            return false;
         }
-        EscribeEn(impresora, x, y, linea);
+        paginas.Pon(i < lineas.size() ? lineas[i] : "", fecha);
     }
-    if (!sigue) impresora.Anula();
-    impresora.Letra = antes;
-    return sigue;
+    return true;
 }
 
 }  // namespace veldix

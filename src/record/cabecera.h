@@ -14,10 +14,11 @@ namespace veldix {
 std::vector<std::string> LeeCabecera(const std::string& ruta);
 
 /// Prints the lines as they are, one under the other in letters of one width on as many pages as they need,
-/// and an empty one behind the last. Letters are made smaller, as far as they can be read, where the longest
-/// line asks for it; what runs over the frame all the same is cut, its cut marked. `cancelada` is asked
-/// before each line: once it answers true the document is dropped, and so it answers false.
-bool ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas,
+/// and an empty one behind the last; each page has the date at its foot. Letters are made smaller, as far as
+/// they can be read, where the longest line asks for it; what runs over the frame all the same is cut, its
+/// cut marked. `cancelada` is asked before each line; once it answers true the document is dropped. Whether
+/// it was printed.
+bool ImprimeCabecera(Impresora& impresora, const std::vector<std::string>& lineas, const std::string& fecha,
                      const std::function<bool()>& cancelada);
 
 }  // namespace veldix

@@ -54,7 +54,7 @@ double RedactorHoja::PonPar(double x, double y, const std::string& rotulo, const
 
 std::string RedactorHoja::Cabe(const std::string& nombre, double ancho, LetraPagina letra)
 {
-    std::string corto = nombre;
+    std::string corto(veldix::Izquierda(nombre, kMayorNombre));
     for (std::size_t n = std::min(NumCaracteres(nombre), kMayorNombre);
          n > kMenorNombre && Ancho(corto, letra) > ancho; --n)
         corto = std::string(veldix::Izquierda(nombre, n - 1)) + "…";
@@ -91,8 +91,8 @@ double RedactorHoja::PonCursores(int fila, const DatosHoja& d, const char* rotul
         if (!v.valor.empty()) {
             const double resto = AnchoRotulo(rotulo) + Ancho(texto + "  " + v.valor, kNormal);
             // A wider gap keeps two numbers apart that no name parts.
-            const std::string nombre = v.nombre.empty() ? " " : Cabe(v.nombre, fin - x - resto, kNormal) + " ";
-            texto += " " + nombre + v.valor;
+            const std::string& n = v.nombre;
+            texto += " " + (n.empty() ? "" : Cabe(n, fin - x - resto, kNormal)) + " " + v.valor;
         }
         return PonPar(x, Fila(fila), rotulo, texto);
     };

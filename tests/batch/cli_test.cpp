@@ -247,13 +247,16 @@ TEST_F(Informe, WhatHasNoPageIsToldAndTheOthersStay)
     std::string miembros, cabecera(2501, '\n');
     for (int j = 1; j <= 20; ++j)
         miembros += "1%D" + std::to_string(j) + "$|";
-    const std::string digitales = "DIGITALES|21| 2 |***|LARGO| 20 |" + miembros + "***|CORTO| 1 |1%D$|-----";
+    const std::string digitales =
+        "DIGITALES|22| 3 |***|LARGO| 20 |" + miembros + "***|MALO| 1 |x%D$|***|CORTO| 1 |1%D$|-----";
     c.Escribe("d/largo.cnf", ConFinales("ver 1.1|P|ANALOGICOS|1|1%a%b%V$|" + digitales));
     c.Escribe("d/solo.cnf", ConFinales("ver 1.1|P|" + digitales));
     c.Escribe("d/rec.hdr", cabecera);
-    const std::string hdr = "veldix-cli: " + c.Ruta("d/rec.hdr") + ": Subscript out of range\n";
+    const std::string hdr = "veldix-cli: Header without a page, error 9: " + c.Ruta("d/rec.hdr") + "\n";
     EXPECT_EQ(Corre("--lang en report d/rec.dat d/largo.cnf d/o.pdf"),
-              "0veldix-cli: Digital group without a page (over 19 channels or 16 groups): LARGO\n" + hdr);
+              "0veldix-cli: Digital group without a page, error 9: LARGO\n"
+              "veldix-cli: Digital group without a page, error 13: MALO\n" +
+                  hdr);
     EXPECT_EQ(Titulos(), "waves waves digital 3 ended");
     EXPECT_EQ(Corre("--lang en report d/rec.dat d/solo.cnf d/o.pdf"),
               "1veldix-cli: There are no pages of digital channels without analog channels.\n" + hdr +

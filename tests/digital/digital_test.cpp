@@ -3,6 +3,8 @@
 #include <random>
 
 #include "digital/eleccion.h"
+#include "digital/lugares_digital.h"
+#include "digital/lugares_grid.h"
 #include "digital/pagina_digital.h"
 #include "platform/raster.h"
 #include "support/grabadora.h"
@@ -107,7 +109,8 @@ TEST(Eleccion, GroupsBeginBehindThoseBeforeThem)
     EXPECT_EQ(s.DigPrimera, 30) << "a group beyond the sixteenth fills nothing";
     EXPECT_EQ(NumeroDeError([&] { EleccionManual e(s); }), 0);
     EXPECT_FALSE(EleccionManual(s).Existe(1)) << "nor does any, by hand, where there are more";
-    for (const auto& [cuenta, error] : {std::pair{"x", error::kTipos}, {"20", error::kSubindice}}) {
+    for (const auto& [cuenta, error] :
+         {std::pair{"x", error::kTipos}, {"20", error::kSubindice}, {"-1", error::kSubindice}}) {
         s = Registro({"01", "10"}, {"1", cuenta, "19"});
         EXPECT_EQ(NumeroDeError([&] { EleccionManual e(s); }), error) << cuenta;
     }
@@ -140,7 +143,8 @@ TEST(Eleccion, ChoicesByHandKeepTheirLimitAndTheOrderOfTheGroups)
     EXPECT_EQ(Filas(s),
               "D1=2 D3=2 D4=1 D5=2 D6=1 D7=2 D13=2 D14=1 D15=2 D16=1 D17=2 D18=1 D19=2 D20=1 D21=2 D22=1 "
               "D23=2 ");
-    EXPECT_EQ(NumeroDeError([&] { e.Click(2, 2); }), error::kSubindice);
+    for (const auto& [k, j] : {std::pair{2, 1}, {1, 0}, {1, 13}, {17, 1}})
+        EXPECT_EQ(NumeroDeError([&, a = k, b = j] { e.Click(a, b); }), error::kSubindice) << k << "," << j;
 }
 
 /// Runs of a row as first and last sample.
@@ -250,10 +254,9 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
         const auto raya = imp.Primero("__"), titulo = imp.Primero("G1");
         EXPECT_GE(120.0 * static_cast<double>(raya.texto.size()) + raya.xs[0], titulo.xs[0] + 240.0);
         EXPECT_EQ(raya.ys, titulo.ys);
-        for (const auto& o : imp.De(Tipo::Texto))
-            EXPECT_TRUE(o.xs[0] > 11000.0 ||
-                        o.xs[0] + 120.0 * static_cast<double>(o.texto.size()) <= 11250.0 || o.ys[0] > 1000.0)
-                << o.texto;
+        const double fichero = imp.Primero("Fichero").ys[0], cursores = imp.Primero("Cursor 1").ys[0];
+        EXPECT_TRUE(titulo.ys[0] + 200 < fichero && fichero + 200 < cursores && cursores + 200 < 1000.0);
+        EXPECT_LT(imp.Primero("90.000 ms").xs[0] + 9 * 120.0, 11250.0);
     }
     EleccionManual(s).Entrega();
     prueba::Grabadora imp;
@@ -261,6 +264,35 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
     EXPECT_TRUE(h.cajas.empty() && h.curvas.at(0).xs.size() == 200);
     ImprimeHoja(imp, h);
     EXPECT_EQ(imp.Primero("G1").texto, "");
+    EXPECT_TRUE(HojaDigital(s, imp, {10000.0, 1100.0, {0, 200, 2.0F}, {{2, "D"}}}, {}).cajas.empty())
+        << "rows below the paper of a window too low for any";
+}
+
+TEST(LugaresDigital, LabelsAndNamesMissTheirPlacesOrTheFrame)
+{
+    const LugaresGrid g = ColocaGrid({19104.0, 10870.0, 19044.0, 10400.0});
+    EXPECT_NEAR(g.anchoEtiqueta, 10870.0 / 7.0, 0.1);
+    EXPECT_NEAR(g.altoEtiqueta, (5200.0 - 16.0) / 20.0 + 16.0, 0.1);
+    EXPECT_NEAR(g.Grupo(16).izquierda, 7 * g.anchoEtiqueta, 0.1);
+    EXPECT_NEAR(g.Grupo(9).arriba, 20 * g.paso + 16.0, 0.1);
+    EXPECT_LE(g.Grupo(16).Abajo(), 10400.0 + 0.1);
+    EXPECT_NEAR(ColocaGrid({9526.0, 6117.0, 9406.0, 9000.0}).altoEtiqueta, 9526.0 / 63.0, 0.1);
+    EXPECT_NEAR(ColocaGrid({12000.0, 20000.0, 11900.0, 19500.0}).resto.Derecha(), 11900.0 - 120.0, 0.1);
+
+    const MedidasOnda m;
+    for (const bool ancha : {true, false}) {
+        const auto l = ColocaDigital({12000.0, 9000.0, 11900.0, 600.0, ancha, true}, m);
+        ASSERT_TRUE(l);
+        EXPECT_EQ(l->Picture1.alto, 7900.0);
+        EXPECT_EQ(l->Picture1.izquierda > 0.0, ancha);
+        EXPECT_NEAR(l->label[18].Abajo(), BaseFila(19, AltoFila(7900.0)), 0.01);
+        EXPECT_LT(l->label[18].Derecha(), l->Picture1.izquierda + 1200.0);
+        EXPECT_NEAR(l->lblamar.ancho, (ancha ? 1.0 : 0.75) * l->label[0].ancho, 0.01);
+        EXPECT_EQ(l->HScroll1.ancho, 3000.0);
+        EXPECT_NEAR(l->lbl_PS.izquierda, l->pctimpresora.Derecha() + 50.0, 0.01);
+        EXPECT_EQ(l->lbl_PS.arriba, l->pctimpresora.arriba);
+    }
+    EXPECT_FALSE(ColocaDigital({12000.0, 1300.0, 11900.0, 600.0}, m));
 }
 
 }  // namespace

@@ -6,19 +6,22 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/pantalla.h"
+#include "platform/textos.h"
 
 namespace veldix {
 
 namespace {
 
 constexpr QRgb kCambia = qRgb(192, 192, 255), kElegido = qRgb(255, 255, 0);
-constexpr double kLetra = 0.7;   // of a label's height, pixels
-constexpr int kMargen = 3;       // pixels
-constexpr int kMenorAncho = 75;  // percent, of letters that are condensed
+constexpr double kLetra = 0.7;     // of a label's height, pixels
+constexpr int kMargen = 3;         // pixels
+constexpr int kMayorNombre = 300;  // characters, more than any label has room for
+constexpr int kMenorAncho = 75;    // percent, of letters that are condensed
 
 /// A label that shows where the keys go.
 class Casilla : public QLabel {
@@ -62,7 +65,7 @@ void GrupoEtiquetas::Llena(const EleccionManual& eleccion)
         const QString nombre = Q(j == 0 ? eleccion.Grupo(k_) : eleccion.Canal(k_, j));
         etiqueta->setEnabled(true);
         etiqueta->setFrameShape(QFrame::Box);
-        etiqueta->setToolTip(nombre);
+        etiqueta->setToolTip(Ayuda(nombre));
         etiqueta->setAccessibleName(nombre);
         if (j == 0) continue;
         // The tab key goes from group to group, the arrows inside one.
@@ -77,12 +80,23 @@ void GrupoEtiquetas::Llena(const EleccionManual& eleccion)
 void GrupoEtiquetas::Pinta(int j, EleccionManual::Fondo fondo)
 {
     QLabel* etiqueta = lblgrp_.at(static_cast<std::size_t>(j));
-    PonFondo(etiqueta, fondo == EleccionManual::Fondo::Elegido ? kElegido : kCambia);
-    if (fondo != EleccionManual::Fondo::Ventana) return;
-    QPalette lista = palette();
-    lista.setColor(QPalette::Window, lista.color(QPalette::Base));
-    lista.setColor(QPalette::WindowText, lista.color(QPalette::Text));
-    etiqueta->setPalette(lista);
+    etiqueta->setAccessibleDescription({});
+    switch (fondo) {
+        case EleccionManual::Fondo::Elegido:
+            PonFondo(etiqueta, kElegido);
+            etiqueta->setAccessibleDescription(Q(Rotulo(256, "Canales elegidos")));
+            break;
+        case EleccionManual::Fondo::Cambia:
+            PonFondo(etiqueta, kCambia);
+            break;
+        case EleccionManual::Fondo::Ventana:
+            QPalette lista = palette();
+            lista.setColor(QPalette::Window, lista.color(QPalette::Base));
+            lista.setColor(QPalette::WindowText, lista.color(QPalette::Text));
+            etiqueta->setPalette(lista);
+            etiqueta->setAutoFillBackground(true);
+            break;
+    }
 }
 
 void GrupoEtiquetas::Coloca(const LugaresGrid& l)
@@ -105,14 +119,15 @@ void GrupoEtiquetas::Coloca(const LugaresGrid& l)
 void GrupoEtiquetas::PonTextos()
 {
     for (QLabel* etiqueta : lblgrp_) {
+        const QString nombre = etiqueta->accessibleName().left(kMayorNombre);
         const int ancho = etiqueta->width() - 2 * kMargen;
-        const int pide = etiqueta->fontMetrics().horizontalAdvance(etiqueta->toolTip());
+        const int pide = etiqueta->fontMetrics().horizontalAdvance(nombre);
         if (pide > ancho) {
             QFont letra = etiqueta->font();
             letra.setStretch(std::max(kMenorAncho, 100 * ancho / pide));
             etiqueta->setFont(letra);
         }
-        etiqueta->setText(etiqueta->fontMetrics().elidedText(etiqueta->toolTip(), Qt::ElideRight, ancho));
+        etiqueta->setText(etiqueta->fontMetrics().elidedText(nombre, Qt::ElideRight, ancho));
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include <QVBoxLayout>
 
-#include "digital/forms/frm19.h"
 #include "platform/forms/escena.h"
 #include "record/record_store.h"
 
@@ -20,15 +19,6 @@ MarcoCanalRef::MarcoCanalRef(const std::string& titulo, QWidget* padre)
         Combo1->addItem(Q(EtiquetaCanal(store, r)));
     setFocusProxy(Combo1);
     (new QVBoxLayout(this))->addWidget(Combo1);
-}
-
-void AbreVistaDigital()
-{
-    PonPuntero(escena.principal, Puntero::Propio);
-    frm19::unica.CargaNueva();
-    DescargaGasolinoOndas();
-    if (frm19* vista = frm19::unica.Cargado()) vista->Presenta(vista->Plot());
-    PonPuntero(escena.principal, Puntero::Normal);
 }
 
 }  // namespace veldix

@@ -21,8 +21,4 @@ private:
     QComboBox* Combo1;
 };
 
-/// Loads the view of digital channels for what a chooser left in the store, and shows it in place of the menu
-/// and of the gauge. One that fails has unloaded itself.
-void AbreVistaDigital();
-
 }  // namespace veldix

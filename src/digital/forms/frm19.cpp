@@ -40,6 +40,15 @@ frm19::frm19()
     Atrapa(this, [this] { Form_Load(); });
 }
 
+void frm19::Abre()
+{
+    PonPuntero(escena.principal, Puntero::Propio);
+    unica.CargaNueva();
+    DescargaGasolinoOndas();
+    if (frm19* vista = unica.Cargado()) vista->Presenta(vista->Plot());
+    PonPuntero(escena.principal, Puntero::Normal);
+}
+
 void frm19::CreaControles()
 {
     HScroll_Analog = new BarraCursor("HScroll_Analog", Q(Rotulo(74, "Canales Analógicos ")), this);

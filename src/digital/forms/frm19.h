@@ -16,6 +16,8 @@ public:
     /// Loads it, hidden, for what a chooser left in the store. A failure unloads it.
     frm19();
     static Portador<frm19> unica;
+    /// Loads it anew and shows it in place of the menu and of the gauge. One that fails has unloaded itself.
+    static void Abre();
 
 protected:
     void Form_Unload() override;

@@ -19,14 +19,14 @@ void PonNombre(QRadioButton* opcion, const QString& nombre)
     opcion->setText(
         letra.elidedText(nombre, Qt::ElideRight, kLetras * letra.averageCharWidth()).replace("&", "&&"));
     opcion->setAccessibleName(nombre);
-    opcion->setToolTip(nombre);
+    opcion->setToolTip(Ayuda(nombre));
 }
 
 }  // namespace
 
 Portador<frmElecdig> frmElecdig::unica;
 
-frmElecdig::frmElecdig() : Formulario(escena.principal, Qt::Dialog)
+frmElecdig::frmElecdig() : ElectorDigital(escena.principal, Qt::Dialog)
 {
     setObjectName("frmElecdig");
     setWindowTitle(Q(Rotulo(71, "Elección de grupo de canales digitales")));
@@ -106,29 +106,7 @@ void frmElecdig::cmdOK_Click()
         Descarga();
         return;
     }
-    MuestraGasolinoOndas(Q(Textos(286)));
-    PonGasolinoOndas(10);
-    EligeGrupo(store, g);
-    Frame3->Aplica();
-    Descarga();
-    AbreVistaDigital();
-}
-
-void frmElecdig::TrasError()
-{
-    DescargaGasolinoOndas();
-    Descarga();
-}
-
-void frmElecdig::cmdcancel_Click()
-{
-    Descarga();
-}
-
-void frmElecdig::Form_Unload()
-{
-    PonPunteros(this, Puntero::Normal);
-    MuestraMenu();
+    AbreVista([g] { EligeGrupo(store, g); });
 }
 
 }  // namespace veldix

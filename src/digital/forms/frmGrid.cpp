@@ -13,7 +13,7 @@ namespace veldix {
 
 Portador<frmGrid> frmGrid::unica;
 
-frmGrid::frmGrid() : Vista(etiqueta::kGrid)
+frmGrid::frmGrid() : ElectorDigital(etiqueta::kGrid)
 {
     setObjectName("frmGrid");
     setWindowTitle(Q(Rotulo(72, "Elección de Canales Digitales")));
@@ -30,6 +30,14 @@ frmGrid::frmGrid() : Vista(etiqueta::kGrid)
     Conecta(cmdOK, &QPushButton::clicked, this, &frmGrid::cmdOK_Click);
     Conecta(cmdcancel, &QPushButton::clicked, this, &frmGrid::cmdcancel_Click);
     Atrapa(this, [this] { Form_Load(); });
+}
+
+void frmGrid::Abre()
+{
+    PonPuntero(escena.principal, Puntero::Espera);  // channels are looked through meanwhile
+    unica.CargaNueva();
+    if (frmGrid* form = unica.Cargado()) form->Presenta(form->Frame1);
+    PonPuntero(escena.principal, Puntero::Normal);
 }
 
 /// Hint, reference, count and buttons, from the top.
@@ -66,7 +74,7 @@ void frmGrid::Form_Load()
 {
     const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
     Coloca(0.0, 0.0, vista.ancho, vista.alto);
-    static_cast<void>(EtiquetaCanal(store, 1));  // there is nothing to show digital channels under
+    static_cast<void>(EtiquetaCanal(store, 1));  // raises 9 where there is no analog channel
     eleccion_.emplace(store);
     for (GrupoEtiquetas* grupo : grupos_)
         grupo->Llena(*eleccion_);
@@ -145,29 +153,7 @@ void frmGrid::cmdOK_Click()
         Rechaza();
         return;
     }
-    MuestraGasolinoOndas(Q(Textos(286)));
-    PonGasolinoOndas(10);
-    eleccion_->Entrega();
-    Frame3->Aplica();
-    Descarga();
-    AbreVistaDigital();
-}
-
-void frmGrid::TrasError()
-{
-    DescargaGasolinoOndas();
-    Descarga();
-}
-
-void frmGrid::cmdcancel_Click()
-{
-    Descarga();
-}
-
-void frmGrid::Form_Unload()
-{
-    PonPunteros(this, Puntero::Normal);
-    MuestraMenu();
+    AbreVista([this] { eleccion_->Entrega(); });
 }
 
 }  // namespace veldix

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "platform/forms/etiquetas.h"
+
 namespace veldix {
 
 EtiquetaRuta::EtiquetaRuta(QWidget* padre) : QLabel(padre)
@@ -12,7 +14,7 @@ EtiquetaRuta::EtiquetaRuta(QWidget* padre) : QLabel(padre)
 void EtiquetaRuta::PonRuta(const QString& ruta)
 {
     setText(ruta);
-    setToolTip(ruta);
+    setToolTip(Ayuda(ruta));
 }
 
 void EtiquetaRuta::paintEvent(QPaintEvent*)

@@ -6,6 +6,7 @@
 
 #include "platform/errores.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/texto.h"
 
 namespace veldix {
@@ -43,7 +44,7 @@ void EtiquetasCorridas::Pon(int k, const std::string& texto)
 void EtiquetasCorridas::Guarda(int k)
 {
     nombres_[Sitio(k)] = U(Etiqueta(k)->text());
-    Etiqueta(k)->setToolTip(Etiqueta(k)->text());
+    Etiqueta(k)->setToolTip(Ayuda(Etiqueta(k)->text()));
 }
 
 void EtiquetasCorridas::PonEntero(int k, const std::string& texto)

@@ -9,6 +9,7 @@
 
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "platform/forms/formulario.h"
 
 namespace veldix {
@@ -47,7 +48,7 @@ QTreeWidgetItem* NuevaLinea(const QString& nombre, const QString& ruta, const QI
     auto* linea = new QTreeWidgetItem({nombre});
     linea->setIcon(0, icono);
     linea->setData(0, Qt::UserRole, ruta);
-    linea->setToolTip(0, ruta);
+    linea->setToolTip(0, Ayuda(ruta));
     return linea;
 }
 

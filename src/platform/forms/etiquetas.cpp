@@ -1,6 +1,7 @@
 #include "platform/forms/etiquetas.h"
 
 #include <QFontMetrics>
+#include <QTextDocument>
 
 #include "platform/forms/escena.h"
 #include "platform/pantalla.h"
@@ -43,6 +44,13 @@ void PonTexto(QLabel* etiqueta, const QString& texto)
         etiqueta->setFont(letra);
     }
     etiqueta->setText(texto);
+}
+
+QString Ayuda(const QString& texto)
+{
+    constexpr qsizetype kMayor = 300;
+    const QString corto = texto.left(kMayor);
+    return Qt::mightBeRichText(corto) ? "<qt>" + corto.toHtmlEscaped() + "</qt>" : corto;
 }
 
 void PonFondo(QWidget* control, QRgb color)

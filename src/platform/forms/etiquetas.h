@@ -20,6 +20,10 @@ QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char
 /// They do not widen again before the label gets its font anew, so that they stand still while a bar moves.
 void PonTexto(QLabel* etiqueta, const QString& texto);
 
+/// A text of the user's files as a hint, which the toolkit would else take for its mark-up where it looks
+/// like it; at most 300 characters.
+QString Ayuda(const QString& texto);
+
 /// Fills a control's background with a light colour, its text black.
 void PonFondo(QWidget* control, QRgb color);
 

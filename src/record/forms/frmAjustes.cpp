@@ -93,10 +93,11 @@ void frmAjustes::cmdImprimir_Click()
     ConImpresoraPredeterminada(size(), [&](const PeticionImpresion& p) {
         if (!viva) return;
         const std::vector<std::string> lineas = lineas_;  // the view may go meanwhile
+        const std::string fecha = FechaImpresion();
         TurnoCancelar turno(*this);
         for (int copia = 1; copia <= p.copias; ++copia) {
             if (copia > 1) p.impresora->PaginaNueva();
-            if (!ImprimeCabecera(*p.impresora, lineas, [&turno] { return turno.Cancelada(); })) return;
+            if (!ImprimeCabecera(*p.impresora, lineas, fecha, [&turno] { return turno.Cancelada(); })) return;
         }
     });
 }

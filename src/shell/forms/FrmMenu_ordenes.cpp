@@ -176,13 +176,9 @@ void FrmMenu::mnuDigGrupos_Click()
     frmElecdig::unica.Muestra();
 }
 
-/// The channels are looked through for changes of state meanwhile.
 void FrmMenu::mnuCompdig_Click()
 {
-    PonPunteros(this, Puntero::Espera);
-    frmGrid::unica.CargaNueva();
-    if (frmGrid* form = frmGrid::unica.Cargado()) form->Presenta(form->Foco());
-    PonPunteros(this, Puntero::Normal);
+    frmGrid::Abre();
 }
 
 void FrmMenu::mnuFasores_Click()

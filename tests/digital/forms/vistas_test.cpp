@@ -16,7 +16,7 @@ using prueba::Valor;
 constexpr const char* kLimite = "No se pueden elegir más de 19 canales digitales.";
 
 /// The record of waves with three digital channels: 1 from sample 401 to 500, always, never; and a template
-/// with a group of these and two of eleven, whose channels are the record's in turn.
+/// with a group of these, one of nineteen and one of two, whose channels are the record's in turn.
 class DigitalTest : public prueba::RegistroOndas {
 protected:
     DigitalTest()
@@ -27,7 +27,7 @@ protected:
             store.MuestrasDig(i, 1) = i > 400 && i <= 500 ? 1 : 0;
             store.MuestrasDig(i, 2) = 1;
         }
-        Grupos({3, 11, 11});
+        Grupos({3, 19, 2});
         for (int c = 2; c <= 3; ++c)  // rows and columns agree: the reference is read by its row
             store.Canales(c).Nombre = "LARGA " + std::to_string(c);
     }
@@ -48,14 +48,15 @@ protected:
 
     frmGrid* AbreGrid()
     {
-        frmGrid::unica.CargaNueva();
-        if (frmGrid* g = frmGrid::unica.Cargado()) g->Presenta(g->Foco());
+        frmGrid::Abre();
         Asienta();
         return frmGrid::unica.Cargado();
     }
-    frm19* AbreGrupo(int g)
+    /// A group under a row of `Canales`.
+    frm19* AbreGrupo(int g, int canalRef = 1)
     {
         frmElecdig::unica.Muestra();
+        Da<QComboBox>("Combo1", frmElecdig::unica.Cargado())->setCurrentIndex(canalRef - 1);
         Da<QRadioButton>("optdg" + std::to_string(g), frmElecdig::unica.Cargado())->click();
         Pulsa("cmdOK", frmElecdig::unica.Cargado());
         return frm19::unica.Cargado();
@@ -104,7 +105,7 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     const std::string blanco = Fondo(1, 2), azul = "#c0c0ff", amarillo = "#ffff00";
     EXPECT_EQ(Fondo(1, 1), azul);
     EXPECT_NE(blanco, azul);
-    EXPECT_TRUE(Canal(1, 0)->isEnabled() && Canal(3, 11)->isEnabled());
+    EXPECT_TRUE(Canal(1, 0)->isEnabled() && Canal(2, 19)->isEnabled());
     EXPECT_FALSE(Canal(1, 4)->isEnabled() || Canal(4, 0)->isEnabled());
     for (const auto& [k, j] : {std::pair{1, 0}, {1, 4}, {4, 0}, {16, 19}})
         Doble(k, j);
@@ -121,23 +122,18 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     QTest::mouseDClick(Canal(1, 3), Qt::LeftButton);  // its first press went elsewhere
     EXPECT_EQ(Elegidos(), "1");
     Doble(1, 3);
-    for (int j = 1; j <= 11; ++j)
+    for (int j = 1; j <= 18; ++j)
         Clic(2, j);
-    for (int j = 1; j <= 7; ++j)
-        Clic(3, j);
     Canal(1, 2)->setFocus();
     QTest::keyClick(Canal(1, 2), Qt::Key_Down);
     QTest::keyClick(Canal(1, 3), Qt::Key_Space);
     EXPECT_EQ(Fondo(1, 3) + Elegidos(), amarillo + "19");
     cajas.Espera(kLimite, Icono::Critico);
-    Clic(3, 8);
     cajas.Espera(kLimite, Icono::Critico);
-    cajas.Espera(kLimite, Icono::Critico);
-    Doble(3, 9);
+    Doble(2, 19);
     EXPECT_EQ(Elegidos(), "19");
-    QTest::keyClick(Canal(2, 10), Qt::Key_Right);
-    QTest::keyClick(Canal(3, 10), Qt::Key_Delete);
-    EXPECT_EQ(Elegidos(), "19");
+    QTest::keyClick(Canal(2, 19), Qt::Key_Delete);
+    QTest::mouseClick(Canal(1, 3), Qt::RightButton);
     QTest::keyClick(Canal(1, 3), Qt::Key_Delete);
     EXPECT_EQ(Fondo(1, 3) + Elegidos(), blanco + "18");
     Pulsa("cmdcancel", frmGrid::unica.Cargado());
@@ -164,6 +160,12 @@ TEST_F(DigitalTest, ByHandTheChosenStandInTheOrderOfTheGroups)
     const double paso = (w - 1400) / 960;
     const auto lineas = De(ops, Tipo::Linea), cajasPlot = De(ops, Tipo::Cajas);
     ASSERT_EQ(lineas.size(), 4U);
+    EXPECT_EQ(lineas[0].xs[0] + lineas[0].xs[1] + lineas[1].ys[0], 3000.0);
+    EXPECT_EQ(lineas[0].ys, (std::vector{100.0, h - 100}));
+    for (std::size_t n = 1; n < 4; ++n)
+        EXPECT_EQ(lineas[n].xs, (std::vector{1200.0, w - 200}));
+    EXPECT_EQ(Da<QScrollBar>("HScroll2", v)->pageStep(), 20);
+    EXPECT_EQ(cajasPlot.at(0).color & 0xFFFFFFU, 0x0000FFU);
     EXPECT_NEAR(lineas[2].ys[0], 1200 + 2 * fila, 0.01);
     ASSERT_EQ(cajasPlot.size(), 2U);
     EXPECT_NEAR(cajasPlot[0].xs[0], 1200 + 400 * paso, 0.05);
@@ -177,10 +179,16 @@ TEST_F(DigitalTest, ByHandTheChosenStandInTheOrderOfTheGroups)
     EXPECT_NEAR(curva.xs[0], 1200 + paso, 0.05);
     EXPECT_NEAR(curva.ys[0], 600 - 600.0 * 2 * Valor(1, 3) / 120, 0.05);  // the largest is 3 * 20, primary
     EXPECT_EQ(curva.color & 0xFFFFFFU, 0xFF0000U);
-    EXPECT_NEAR(LineaX("lnizq", v), 1200 + paso, 15);
     v->Ventana().close();
     Asienta();
     EXPECT_TRUE(menu && store.EnPrimario);
+
+    // A whole group then shows its own rows alone.
+    v = AbreGrupo(2);
+    ASSERT_TRUE(v);
+    EXPECT_EQ(Texto("label1", v) + "|" + Texto("label19", v), "Señal 4|Señal 22");
+    EXPECT_EQ(De(Graba(v), Tipo::Linea).size(), 21U);
+    EXPECT_EQ(De(Graba(v), Tipo::Cajas).size(), 13U);
 }
 
 TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
@@ -197,6 +205,9 @@ TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
     EXPECT_TRUE(De(ops, Tipo::Cajas).empty() && De(ops, Tipo::Linea).size() == 2);
     v->Descarga();
 
+    Grupos(std::vector<int>(16, 1));
+    ASSERT_TRUE(AbreGrid());
+    EXPECT_TRUE(Canal(16, 1)->isEnabled());
     Grupos(std::vector<int>(17, 1));
     ASSERT_TRUE(AbreGrid());
     EXPECT_FALSE(Canal(1, 0)->isEnabled());
@@ -204,6 +215,14 @@ TEST_F(DigitalTest, NothingChosenShowsTheFirstChannelAlone)
     cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
     frmElecdig::unica.Muestra();
     EXPECT_TRUE(menu && !frmElecdig::unica.Cargado());
+
+    Registro(20);  // few enough to tell a sample's step on the screen
+    store.MuestrasDig = Tabla2<std::int16_t>(20, 3);
+    Grupos({1});
+    v = AbreGrupo(1);
+    ASSERT_TRUE(v);
+    for (const char* linea : {"lnizq", "lnder"})
+        EXPECT_NEAR(LineaX(linea, v), 1200 + (v->Plot()->Ancho() - 1400) / 20, 15) << linea;
 }
 
 TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
@@ -236,6 +255,7 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     EXPECT_NEAR(De(ops, Tipo::Cajas).at(0).xs[0], 1200.0, 0.05);
     EXPECT_NEAR(De(ops, Tipo::Cajas).at(0).xs[1], 1200 + 100 * paso, 0.05);
     EXPECT_NEAR(LineaX("lnizq", v), 1200, 15);
+    EXPECT_NEAR(LineaX("lnder", v), 1200, 15);
     Cursores(v, 400, 600);
     EXPECT_NEAR(LineaX("lnder", v), w - 200, 15);
     Pulsa("cmdatras", v);
@@ -243,8 +263,11 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     EXPECT_EQ(De(Graba(v), Tipo::Poligonal).at(0).xs.size(), 959U) << "samples 2 on, by the stored level";
     Pulsa("cmdadel", v);
     EXPECT_EQ(Estado(v), (std::vector{400, 400, 400, 600, 1, 2}));
+    Cursores(v, 450, 550);
     Estira(v);
     EXPECT_EQ(Estado(v), todo);
+    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
+    Pulsa("cmdzoom", v);
     ops = Graba(v);
     EXPECT_EQ(De(ops, Tipo::Poligonal).at(0).xs.size(), 960U);
     EXPECT_EQ(De(ops, Tipo::Cajas).size(), 2U);
@@ -300,6 +323,9 @@ TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
         EXPECT_EQ(AbreGrid(), nullptr);
         EXPECT_TRUE(menuSolo());
     }
+    Grupos({3, -1, 3});
+    cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
+    EXPECT_EQ(AbreGrupo(3), nullptr) << "its rows would be another group's";
     Grupos({20});
     cajas.Espera("Error 9: Subscript out of range", Icono::Critico);
     EXPECT_EQ(AbreGrupo(1), nullptr);
@@ -311,11 +337,12 @@ TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
     EXPECT_TRUE(menuSolo());
 }
 
-TEST_F(DigitalTest, APageShowsTheZoomedStretch)
+TEST_F(DigitalTest, APageShowsAnotherStretchOrChannelThanTheView)
 {
-    frm19* v = AbreGrupo(1);
+    frm19* v = AbreGrupo(1, 3);
     Cursores(v, 451, 651);
     Pulsa("cmdzoom", v);
+    Cursores(v, 471, 481);
     auto impresora = std::make_shared<prueba::Grabadora>();
     PonDialogoImpresion([&] { return PeticionImpresion{impresora, 2, false}; });
     Pulsa("pctimpresora", v);
@@ -327,7 +354,16 @@ TEST_F(DigitalTest, APageShowsTheZoomedStretch)
     const double ancho = 16838.0 * (0.92 - 0.15);
     EXPECT_NEAR(cajasPapel[0].xs[1] - cajasPapel[0].xs[0], ancho * 49 / 200, 1.0);
     EXPECT_NEAR(cajasPapel[1].xs[1] - cajasPapel[1].xs[0], ancho, 1.0);
-    EXPECT_EQ(impresora->Primero("GRUPO 1").texto, "GRUPO 1");
+    for (const std::string& texto : {std::string("GRUPO 1"), std::string("LARGA 3"), std::string("10,000 ms"),
+                                     "Muestra n.º 471  " + std::to_string(Valor(471, 3)) + ",000 A",
+                                     "Muestra n.º 481  " + std::to_string(Valor(481, 3)) + ",000 A"})
+        EXPECT_EQ(impresora->Primero(texto).texto, texto);
+    const auto orden = [&](Op::Tipo tipo) {
+        return std::ranges::find(impresora->ops, tipo, &Op::tipo) - impresora->ops.begin();
+    };
+    EXPECT_TRUE(orden(Op::Tipo::Recorte) < orden(Op::Tipo::Caja) &&
+                orden(Op::Tipo::Caja) < orden(Op::Tipo::SinRecorte))
+        << "bars beyond the plot, or the next page clipped";
 }
 
 }  // namespace

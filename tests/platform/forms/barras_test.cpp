@@ -60,6 +60,8 @@ TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
     barra.setValue(0);
     EXPECT_TRUE(una->text() == "corto" && otra->text() == "b");
     EXPECT_EQ(prueba::NumeroDeError([&] { e.Pon(3, ""); }), error::kSubindice);
+    e.PonEntero(2, "<b>x");
+    EXPECT_EQ(otra->toolTip(), "<qt>&lt;b&gt;x</qt>") << "a name that the toolkit reads as its mark-up";
 }
 
 TEST(ImpresoraPdf, AFileIsWholeOrAsItWasAndItsPagesAreLandscape)
