@@ -54,13 +54,13 @@ TEST(Cabecera, PagesLoseLinesOrTheirDateOrEndWhite)
     EXPECT_EQ(Imprime(lineas, uno), "hoy@65 VELDIX@0 a@1 ");
     EXPECT_EQ(uno.De(Tipo::Texto).back().texto, "") << "one line more than there are";
     EXPECT_TRUE(uno.ops[0].letra.fija && !uno.Letra.fija);
-    lineas.insert(lineas.end(), 100, "");
+    lineas.insert(lineas.end(), 150, "");
     for (const bool acaba : {true, false}) {
         prueba::Grabadora otra(16838.0, 11906.0);
         otra.sentido = Orientacion::Vertical;
         if (!acaba) lineas.push_back("b");
         EXPECT_EQ(Imprime(lineas, otra),
-                  acaba ? "hoy@65 VELDIX@0 a@1 " : "hoy@65 VELDIX@0 a@1 /hoy@65 b@38 ");
+                  acaba ? "hoy@65 VELDIX@0 a@1 " : "hoy@65 VELDIX@0 a@1 //hoy@65 b@24 ");
     }
 }
 

@@ -111,6 +111,7 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
         Doble(k, j);
     QTest::mousePress(Canal(1, 1), Qt::LeftButton);
     QTest::mouseRelease(Canal(1, 1), Qt::LeftButton, {}, QPoint(-5, -5));
+    QTest::mouseClick(Canal(1, 1), Qt::RightButton);
     EXPECT_EQ(Elegidos(), "0");
     Clic(1, 1);
     Clic(1, 1);
@@ -133,7 +134,6 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     Doble(2, 19);
     EXPECT_EQ(Elegidos(), "19");
     QTest::keyClick(Canal(2, 19), Qt::Key_Delete);
-    QTest::mouseClick(Canal(1, 3), Qt::RightButton);
     QTest::keyClick(Canal(1, 3), Qt::Key_Delete);
     EXPECT_EQ(Fondo(1, 3) + Elegidos(), blanco + "18");
     Pulsa("cmdcancel", frmGrid::unica.Cargado());
@@ -294,6 +294,9 @@ TEST_F(DigitalTest, NamesAndTheTextsOfTheReferenceScrollApart)
     EXPECT_EQ(analog->maximum(), 13);
     QTest::mouseClick(Da<QLabel>("lblanalog", v), Qt::LeftButton);
     EXPECT_EQ(Texto("lblanalog", v), "I1");
+    EXPECT_TRUE(Da<QLabel>("label3", v)->isVisible() && !Da<QLabel>("label4", v)->isVisible());
+    Estira(v);
+    EXPECT_EQ(nombres->value() + analog->value(), 0) << "the next step would jump";
 }
 
 TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
@@ -339,6 +342,7 @@ TEST_F(DigitalTest, ATemplateThatDoesNotFitEndsInTheMenu)
 
 TEST_F(DigitalTest, APageShowsAnotherStretchOrChannelThanTheView)
 {
+    store.Muestras(500, 3) = 60000.0F;  // the others lie flat beside it
     frm19* v = AbreGrupo(1, 3);
     Cursores(v, 451, 651);
     Pulsa("cmdzoom", v);
@@ -358,6 +362,10 @@ TEST_F(DigitalTest, APageShowsAnotherStretchOrChannelThanTheView)
                                      "Muestra n.º 471  " + std::to_string(Valor(471, 3)) + ",000 A",
                                      "Muestra n.º 481  " + std::to_string(Valor(481, 3)) + ",000 A"})
         EXPECT_EQ(impresora->Primero(texto).texto, texto);
+    EXPECT_LT(impresora->Primero("Muestra n.º 471").xs[0], impresora->Primero("Muestra n.º 481").xs[0]);
+    auto ys = std::ranges::find(impresora->ops, 200U, [](const auto& o) { return o.xs.size(); })->ys;
+    std::ranges::sort(ys);
+    EXPECT_TRUE(ys[199] - ys[1] < 5.0 && ys[1] - ys[0] > 500.0) << "the curve of another channel";
     const auto orden = [&](Op::Tipo tipo) {
         return std::ranges::find(impresora->ops, tipo, &Op::tipo) - impresora->ops.begin();
     };
