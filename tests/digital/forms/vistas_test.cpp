@@ -232,13 +232,7 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     ASSERT_TRUE(v && !menu);
     EXPECT_EQ(U(v->windowTitle()), "Canales Digitales GRUPO 1");
     const std::vector<int> todo{1, 1, 1, 960, 0, 1};
-    EXPECT_EQ(Estado(v), todo);
-    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
-    Pulsa("cmdzoom", v);
-    cajas.Espera("Este es el último nivel de zoom.", Icono::Informacion);
-    Pulsa("cmdadel", v);
-    cajas.Espera("Este es el primer nivel de zoom.", Icono::Informacion);
-    Pulsa("cmdatras", v);
+    SinZoom(v, Icono::Informacion, Icono::Informacion);
     EXPECT_EQ(Estado(v), todo);
 
     Cursores(v, 600, 400);
@@ -266,8 +260,7 @@ TEST_F(DigitalTest, AGroupZoomsBetweenTheCursorsAndBack)
     Cursores(v, 450, 550);
     Estira(v);
     EXPECT_EQ(Estado(v), todo);
-    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
-    Pulsa("cmdzoom", v);
+    SinZoom(v, Icono::Informacion, Icono::Informacion);
     ops = Graba(v);
     EXPECT_EQ(De(ops, Tipo::Poligonal).at(0).xs.size(), 960U);
     EXPECT_EQ(De(ops, Tipo::Cajas).size(), 2U);

@@ -145,6 +145,17 @@ protected:
         return {una->minimum(),  una->value(),        otra->value(),
                 otra->maximum(), v->Zoom().NivelZoom, v->Zoom().NumNiveles};
     }
+    /// A fresh view of the whole record refuses a zoom of nothing, and both ways through its history.
+    void SinZoom(VistaCursores* v, Icono ultimo, Icono primero)
+    {
+        cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.",
+                     Icono::Informacion);
+        Pulsa("cmdzoom", v);
+        cajas.Espera("Este es el último nivel de zoom.", ultimo);
+        Pulsa("cmdadel", v);
+        cajas.Espera("Este es el primer nivel de zoom.", primero);
+        Pulsa("cmdatras", v);
+    }
     static double LineaX(const char* nombre, VistaOndas* v) { return 15.0 * Da<LineaSobre>(nombre, v)->x(); }
 
     QMainWindow principal;

@@ -88,13 +88,7 @@ TEST_F(TodoTest, ZoomsBetweenTheCursorsAndTellsItsEnds)
 {
     frmTodoanalog* v = Abre({1, 2});
     const std::vector<int> todo{1, 1, 1, 960, 0, 1};
-    EXPECT_EQ(Estado(v), todo);
-    cajas.Espera("Los dos cursores están en la misma muestra. Sepárelos para ampliar.", Icono::Informacion);
-    Pulsa("cmdzoom", v);
-    cajas.Espera("Este es el último nivel de zoom.", Icono::Critico);
-    Pulsa("cmdadel", v);
-    cajas.Espera("Este es el primer nivel de zoom.", Icono::Ninguno);
-    Pulsa("cmdatras", v);
+    SinZoom(v, Icono::Critico, Icono::Ninguno);
     EXPECT_EQ(Estado(v), todo);
 
     Cursores(v, 401, 201);
