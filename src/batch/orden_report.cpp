@@ -167,16 +167,19 @@ void ImprimeDigitales(Informe& informe, const Consola& consola)
     if (store.NumGruposDig > 0 && informe.canales.empty())
         Avisa(consola.espanol ? "Sin canales analógicos no hay páginas de canales digitales."
                               : "There are no pages of digital channels without analog channels.");
-    for (int g = 1; g <= store.NumGruposDig && !informe.canales.empty(); ++g)
+    for (int g = 1; g <= store.NumGruposDig && !informe.canales.empty(); ++g) {
+        HojaOndas hoja;
         try {
-            const HojaOndas hoja = HojaDeGrupo(informe, g);
-            informe.Pagina();
-            ImprimeHoja(informe.impresora, hoja);
+            hoja = HojaDeGrupo(informe, g);
         } catch (const ErrorEjecucion& e) {
             Avisa((consola.espanol ? "Grupo digital sin página, error "
                                    : "Digital group without a page, error ") +
                   FormaDelimitada(e.numero) + ": " + store.GruposDig(g).Nombre);
+            continue;
         }
+        informe.Pagina();
+        ImprimeHoja(informe.impresora, hoja);
+    }
 }
 
 /// The header file, where the record has one. One that cannot be listed is named and left out.

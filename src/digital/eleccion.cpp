@@ -118,8 +118,9 @@ const std::string& EleccionManual::Canal(int k, int j) const
 
 EleccionManual::Fondo EleccionManual::FondoDe(int k, int j) const
 {
+    const std::size_t canal = SitioCanal(k, j);
     const GrupoElegible& g = grupos_[Sitio(k)];
-    return g.SelGrupo(j) == 1 ? Fondo::Elegido : g.ColorEtiqueta[SitioCanal(k, j)];
+    return g.SelGrupo(j) == 1 ? Fondo::Elegido : g.ColorEtiqueta[canal];
 }
 
 std::int16_t& EleccionManual::Elegido(int k, int j)

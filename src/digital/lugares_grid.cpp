@@ -14,7 +14,7 @@ constexpr double kSolape = 16.0, kMargen = 120.0, kMenorResto = 2400.0;
 LugaresGrid ColocaGrid(const TamanoGrid& t)
 {
     LugaresGrid l;
-    l.anchoEtiqueta = std::min(t.alto / 7.0, (t.anchoInterior - kMenorResto) / kColumnas);
+    l.anchoEtiqueta = std::clamp((t.anchoInterior - kMenorResto) / kColumnas, 0.0, t.alto / 7.0);
     l.altoEtiqueta = std::min(t.ancho / 63.0, (t.altoInterior / 2.0 - kSolape) / kEtiquetas + kSolape);
     l.paso = l.altoEtiqueta - kSolape;
     const double izquierda = kColumnas * l.anchoEtiqueta + kMargen;

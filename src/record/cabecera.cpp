@@ -14,8 +14,7 @@ namespace veldix {
 namespace {
 
 constexpr std::size_t kMayorLineas = 2500, kMayorLinea = 4096, kTabulador = 8;
-constexpr double kMenorLetra = 6.0;  // points
-constexpr double kHolgura = 1e-6;    // of a letter, so that the longest line fits that was measured
+constexpr double kMenorLetra = 6.0, kPasoLetra = 0.05;  // points
 
 /// U+0080 to U+009F, and the separators of lines and paragraphs.
 bool EsControl(std::string_view caracter)
@@ -61,13 +60,8 @@ public:
     {
         impresora_.Letra = {antes_.puntos, false, true};
         x_ = hoja_.izquierda + impresora_.AnchoTexto("AA");
-        std::size_t largo = 1;
-        for (const std::string& linea : lineas)
-            largo = std::max(largo, NumCaracteres(linea));
-        const double ancho = hoja_.derecha - x_;
-        const double pide = impresora_.AnchoTexto("A") * static_cast<double>(largo);
-        if (pide > ancho) impresora_.Letra.puntos = std::max(kMenorLetra, antes_.puntos * ancho / pide);
-        caben_ = static_cast<std::size_t>(std::max(0.0, ancho / impresora_.AnchoTexto("A") + kHolgura));
+        ancho_ = hoja_.derecha - x_;
+        AjustaLetra(lineas);
         alto_ = impresora_.AltoTexto();
         y_ = hoja_.arriba;
     }
@@ -82,25 +76,50 @@ public:
         if (y_ + alto_ > pie) {
             ++pendientes_;
             y_ = hoja_.arriba;
-            fechada_ = false;
         }
         if (!linea.empty()) {
-            for (; pendientes_ > 0; --pendientes_)
+            for (; pendientes_ > 0; --pendientes_) {
+                if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, pie, fecha);
                 impresora_.PaginaNueva();
+                fechada_ = false;
+            }
             if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, pie, fecha);
         }
-        if (pendientes_ == 0) EscribeEn(impresora_, x_, y_, Corta(linea, caben_));
+        if (pendientes_ == 0) EscribeEn(impresora_, x_, y_, Cabe(linea));
         y_ += alto_;
     }
 
 private:
+    /// The printer rounds sizes, so that the widest line is measured anew at each.
+    void AjustaLetra(const std::vector<std::string>& lineas)
+    {
+        std::string mayor;
+        double ancho = 0.0;
+        for (const std::string& linea : lineas)
+            if (const double suyo = impresora_.AnchoTexto(linea); suyo > ancho) {
+                ancho = suyo;
+                mayor = linea;
+            }
+        double& puntos = impresora_.Letra.puntos;
+        while (puntos > kMenorLetra && impresora_.AnchoTexto(mayor) > ancho_)
+            puntos = std::max(kMenorLetra, puntos - kPasoLetra);
+    }
+    std::string Cabe(const std::string& linea) const
+    {
+        const double pide = impresora_.AnchoTexto(linea);
+        if (pide <= ancho_) return linea;
+        auto n = static_cast<std::size_t>(static_cast<double>(NumCaracteres(linea)) * ancho_ / pide) + 1;
+        while (n > 1 && impresora_.AnchoTexto(Corta(linea, n)) > ancho_)
+            --n;
+        return Corta(linea, n);
+    }
+
     Impresora& impresora_;
     LetraPagina antes_;
     Marco hoja_;
-    double x_ = 0.0, y_ = 0.0, alto_ = 0.0;
-    std::size_t caben_ = 0;  ///< characters of a line
-    int pendientes_ = 0;     ///< pages to begin before the next text
-    bool fechada_ = false;   ///< the page has its date
+    double x_ = 0.0, y_ = 0.0, ancho_ = 0.0, alto_ = 0.0;
+    int pendientes_ = 0;    ///< pages to begin before the next text
+    bool fechada_ = false;  ///< the page has its date
 };
 
 }  // namespace

@@ -60,13 +60,13 @@ TEST(Cabecera, PagesLoseLinesOrTheirDateOrEndWhite)
         otra.sentido = Orientacion::Vertical;
         if (!acaba) lineas.push_back("b");
         EXPECT_EQ(Imprime(lineas, otra),
-                  acaba ? "hoy@65 VELDIX@0 a@1 " : "hoy@65 VELDIX@0 a@1 //hoy@65 b@24 ");
+                  acaba ? "hoy@65 VELDIX@0 a@1 " : "hoy@65 VELDIX@0 a@1 /hoy@65 /hoy@65 b@24 ");
     }
 }
 
 TEST(Cabecera, LongLinesRunOffThePaperOrAreCutTooSoon)
 {
-    for (const auto& [letras, puntos] : {std::pair{110U, 7.4}, {90U, 9.0}, {400U, 6.0}}) {
+    for (const auto& [letras, puntos] : {std::pair{110U, 7.4}, {90U, 9.0}, {113U, 7.2}, {400U, 6.0}}) {
         prueba::Grabadora imp(16838.0, 11906.0);
         imp.sentido = Orientacion::Vertical;
         ImprimeCabecera(imp, {std::string(letras, 'w')}, "hoy", [] { return false; });

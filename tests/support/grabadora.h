@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>
@@ -36,7 +37,8 @@ public:
     ModoColor Color() const override { return color_; }
     double AnchoTexto(const std::string& t) const override
     {
-        return (Letra.fija ? 120.0 * Letra.puntos / 9.0 : 120.0) * static_cast<double>(t.size());
+        return (Letra.fija ? 120.0 * std::round(Letra.puntos * 20.0) / 180.0 : 120.0) *
+               static_cast<double>(t.size());
     }
     double AltoTexto() const override { return 240.0 * Letra.puntos / 9.0; }
     void Poligonal(std::span<const double> xs, std::span<const double> ys, std::uint32_t color) override

@@ -8,6 +8,7 @@ namespace veldix {
 
 EtiquetaRuta::EtiquetaRuta(QWidget* padre) : QLabel(padre)
 {
+    setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 

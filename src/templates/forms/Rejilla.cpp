@@ -9,6 +9,7 @@
 
 #include "platform/errores.h"
 #include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 
 namespace veldix {
 
@@ -20,7 +21,7 @@ public:
     QTableWidgetItem* clone() const override { return new Celda(*this); }
     QVariant data(int papel) const override
     {
-        if (papel == Qt::ToolTipRole) return text().toHtmlEscaped();
+        if (papel == Qt::ToolTipRole) return Ayuda(text());
         return QTableWidgetItem::data(papel);
     }
 };
