@@ -164,10 +164,12 @@ HojaOndas HojaDeGrupo(Informe& informe, int g)
 /// named and left out, for the sake of the other pages.
 void ImprimeDigitales(Informe& informe, const Consola& consola)
 {
-    if (store.NumGruposDig > 0 && informe.canales.empty())
+    if (store.NumGruposDig > 0 && informe.canales.empty()) {
         Avisa(consola.espanol ? "Sin canales analógicos no hay páginas de canales digitales."
                               : "There are no pages of digital channels without analog channels.");
-    for (int g = 1; g <= store.NumGruposDig && !informe.canales.empty(); ++g) {
+        return;
+    }
+    for (int g = 1; g <= store.NumGruposDig; ++g) {
         HojaOndas hoja;
         try {
             hoja = HojaDeGrupo(informe, g);

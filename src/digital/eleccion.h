@@ -16,7 +16,7 @@ namespace veldix {
 std::int16_t CambiaEstado(RecordStore& s, int canal, bool& avisado);
 
 /// What `frm19` is to show of group `g`, from 1. Beyond group 16 fills nothing and answers false. Raises 9
-/// for a group that the template lacks, 13 for a count that is no number.
+/// for a group that the template lacks and for a negative count, 13 for one that is no number.
 bool EligeGrupo(RecordStore& s, int g);
 
 /// The digital channels of the template while they are chosen one by one. Groups count from 1 to 16, their

@@ -72,24 +72,29 @@ public:
     /// A page begins with its first text, so that blank lines at the end leave none white.
     void Pon(const std::string& linea, const std::string& fecha)
     {
-        const double pie = hoja_.abajo - alto_;
-        if (y_ + alto_ > pie) {
+        if (y_ + alto_ > Pie()) {
             ++pendientes_;
             y_ = hoja_.arriba;
         }
         if (!linea.empty()) {
             for (; pendientes_ > 0; --pendientes_) {
-                if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, pie, fecha);
+                Fecha(fecha);
                 impresora_.PaginaNueva();
                 fechada_ = false;
             }
-            if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, pie, fecha);
+            Fecha(fecha);
         }
         if (pendientes_ == 0) EscribeEn(impresora_, x_, y_, Cabe(linea));
         y_ += alto_;
     }
 
 private:
+    /// Upper edge of the last row, which is the date's.
+    double Pie() const { return hoja_.abajo - alto_; }
+    void Fecha(const std::string& fecha)
+    {
+        if (!std::exchange(fechada_, true)) EscribeEn(impresora_, x_, Pie(), fecha);
+    }
     /// The printer rounds sizes, so that the widest line is measured anew at each.
     void AjustaLetra(const std::vector<std::string>& lineas)
     {
