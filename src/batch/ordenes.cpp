@@ -46,6 +46,11 @@ constexpr Orden kOrdenes[] = {
      "sequences REC.dat TEMPLATE.cnf --group G [--reference primary|secondary]",
      "escribe las secuencias del grupo trifásico G de la plantilla como CSV",
      "writes the sequences of the template's three-phase group G as CSV"},
+    {"ascii", 2, 2, false, false, false, OrdenAscii, "ascii REC.dat DEST",
+     "copia un registro BINARY como ASCII: DEST.DAT, DEST.cfg y, si lo hay, DEST.hdr; DEST es el camino sin\n"
+     "      extensión, y los ficheros que haya se sustituyen",
+     "copies a BINARY record as an ASCII one: DEST.DAT, DEST.cfg and, where there is one, DEST.hdr; DEST is\n"
+     "      the path without extension, and files that are there are replaced"},
     {"report", 2, 3, true, false, true, OrdenReport,
      "report REC.dat [TEMPLATE.cnf] OUT.pdf [--channels 1,3,5-8] [--sample N]\n"
      "      [--reference primary|secondary] [--monochrome]",

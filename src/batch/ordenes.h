@@ -61,6 +61,8 @@ Salida OrdenSamples(const Argumentos& a, const Consola& consola);
 Salida OrdenPhasors(const Argumentos& a, const Consola& consola);
 /// CSV of the symmetrical components of a three-phase group.
 Salida OrdenSequences(const Argumentos& a, const Consola& consola);
+/// The ASCII copy of a BINARY record. Files that are there are replaced.
+Salida OrdenAscii(const Argumentos& a, const Consola& consola);
 /// One PDF of the pages that the views print. A file that is there is replaced when the new one is whole.
 Salida OrdenReport(const Argumentos& a, const Consola& consola);
 

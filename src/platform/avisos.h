@@ -9,7 +9,7 @@
 
 namespace veldix {
 
-enum class Icono { Ninguno, Informacion, Critico, Pregunta };
+enum class Icono { Ninguno, Informacion, Exclamacion, Critico, Pregunta };
 enum class Botones { Aceptar, AceptarCancelar };
 
 /// A message box as it is asked for.

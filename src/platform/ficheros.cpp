@@ -65,49 +65,30 @@ int AbreParaLeer(const std::string& ruta)
     return fd;
 }
 
-/// A file open for writing that is closed in any case.
-class Destino {
-public:
-    explicit Destino(int fd) : fd_(fd) {}
-    ~Destino()
-    {
-        if (fd_ >= 0) close(fd_);
+void EscribeTodo(int fd, std::string_view octetos)
+{
+    while (!octetos.empty()) {
+        std::size_t cuantos = octetos.size();
+        if (g_limiteDisco >= 0) cuantos = std::min(cuantos, static_cast<std::size_t>(g_limiteDisco));
+        if (cuantos == 0) Lanza(error::kDiscoLleno);
+        const ssize_t n = write(fd, octetos.data(), cuantos);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) Lanza(ErrorDeEscritura(errno));
+        if (g_limiteDisco >= 0) g_limiteDisco -= n;
+        octetos.remove_prefix(static_cast<std::size_t>(n));
     }
-    Destino(const Destino&) = delete;
-    Destino& operator=(const Destino&) = delete;
+}
 
-    void Escribe(std::string_view octetos) const
-    {
-        while (!octetos.empty()) {
-            const std::size_t cuantos = Caben(octetos.size());
-            const ssize_t n = cuantos == 0 ? -1 : write(fd_, octetos.data(), cuantos);
-            if (n < 0 && cuantos > 0 && errno == EINTR) continue;
-            if (n < 0) Lanza(cuantos == 0 ? error::kDiscoLleno : ErrorDeEscritura(errno));
-            if (g_limiteDisco >= 0) g_limiteDisco -= n;
-            octetos.remove_prefix(static_cast<std::size_t>(n));
-        }
+/// What was written is on the disk, or the error raised; the descriptor is closed in any case.
+void CierraEscrito(int fd)
+{
+    if (fsync(fd) != 0 && errno != EINVAL) {
+        const int codigo = errno;
+        close(fd);
+        Lanza(ErrorDeEscritura(codigo));
     }
-
-    void Cierra()
-    {
-        const int fd = fd_;
-        fd_ = -1;
-        if (fsync(fd) != 0 && errno != EINVAL) {
-            const int codigo = errno;
-            close(fd);
-            Lanza(ErrorDeEscritura(codigo));
-        }
-        if (close(fd) != 0) Lanza(ErrorDeEscritura(errno));
-    }
-
-private:
-    static std::size_t Caben(std::size_t pedidos)
-    {
-        if (g_limiteDisco < 0) return pedidos;
-        return std::min(pedidos, static_cast<std::size_t>(g_limiteDisco));
-    }
-    int fd_;
-};
+    if (close(fd) != 0) Lanza(ErrorDeEscritura(errno));
+}
 
 /// The file behind links, so that a replaced settings file stays where its link points.
 std::string SinEnlaces(const std::string& ruta)
@@ -250,25 +231,53 @@ std::size_t LectorTrozos::Tamano() const
     return fstat(fd_, &s) == 0 && S_ISREG(s.st_mode) ? static_cast<std::size_t>(s.st_size) : kTrozo;
 }
 
-void ReemplazaFichero(const std::string& ruta, std::string_view octetos)
+FicheroNuevo::FicheroNuevo(const std::string& ruta)
 {
     if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
-    const std::string real = SinEnlaces(ruta);
-    const mode_t permisos = PermisosDe(real);
-    if (access(real.c_str(), F_OK) == 0 && access(real.c_str(), W_OK) != 0) Lanza(error::kPermiso);
-    std::string temporal = real + ".XXXXXX";
-    const int fd = mkostemp(temporal.data(), O_CLOEXEC);
-    if (fd < 0) Lanza(ErrorDeApertura(real, errno));
-    try {
-        Destino destino(fd);
-        destino.Escribe(octetos);
-        fchmod(fd, permisos);
-        destino.Cierra();
-        if (rename(temporal.c_str(), real.c_str()) != 0) Lanza(ErrorDeApertura(real, errno));
-    } catch (...) {
-        unlink(temporal.c_str());
-        throw;
+    real_ = SinEnlaces(ruta);
+    permisos_ = PermisosDe(real_);
+    if (access(real_.c_str(), F_OK) == 0 && access(real_.c_str(), W_OK) != 0) Lanza(error::kPermiso);
+    temporal_ = real_ + ".XXXXXX";
+    fd_ = mkostemp(temporal_.data(), O_CLOEXEC);
+    if (fd_ < 0) Lanza(ErrorDeApertura(real_, errno));
+}
+
+FicheroNuevo::~FicheroNuevo()
+{
+    if (fd_ >= 0) close(fd_);
+    if (!temporal_.empty()) unlink(temporal_.c_str());
+}
+
+void FicheroNuevo::Escribe(std::string_view octetos)
+{
+    EscribeTodo(fd_, octetos);
+}
+
+void FicheroNuevo::Confirma()
+{
+    fchmod(fd_, permisos_);
+    CierraEscrito(std::exchange(fd_, -1));
+    if (rename(temporal_.c_str(), real_.c_str()) != 0) Lanza(ErrorDeApertura(real_, errno));
+    temporal_.clear();
+}
+
+void ReemplazaFichero(const std::string& ruta, std::string_view octetos)
+{
+    FicheroNuevo nuevo(ruta);
+    nuevo.Escribe(octetos);
+    nuevo.Confirma();
+}
+
+void CopiaFichero(const std::string& origen, const std::string& destino)
+{
+    LectorTrozos lector(origen);
+    FicheroNuevo nuevo(destino);
+    std::vector<char> trozo(kTrozo);
+    for (std::size_t n = kTrozo; n == kTrozo;) {
+        n = lector.Lee(trozo);
+        nuevo.Escribe({trozo.data(), n});
     }
+    nuevo.Confirma();
 }
 
 void EscribeFichero(const std::string& ruta, std::string_view octetos)
@@ -276,9 +285,13 @@ void EscribeFichero(const std::string& ruta, std::string_view octetos)
     if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
     const int fd = open(ruta.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0) Lanza(ErrorDeApertura(ruta, errno));
-    Destino destino(fd);
-    destino.Escribe(octetos);
-    destino.Cierra();
+    try {
+        EscribeTodo(fd, octetos);
+    } catch (...) {
+        close(fd);
+        throw;
+    }
+    CierraEscrito(fd);
 }
 
 void LimitaDisco(long long octetos)

@@ -41,9 +41,31 @@ private:
     int fd_ = -1;
 };
 
-/// Replaces a file the user owns as a whole, through a temporary file of its folder and a rename, so that a
-/// full disk or a kill leaves the old one. Raises 52, 57, 61, 70, 75, 76.
+/// A file the user owns written anew in pieces, through a temporary file of its folder: the old one stands,
+/// also on a full disk or after a kill, until Confirma renames the new one over it. Links are followed.
+class FicheroNuevo {
+public:
+    /// Raises 52, 61, 70, 75, 76.
+    explicit FicheroNuevo(const std::string& ruta);
+    /// Without Confirma nothing has happened.
+    ~FicheroNuevo();
+    FicheroNuevo(const FicheroNuevo&) = delete;
+    FicheroNuevo& operator=(const FicheroNuevo&) = delete;
+
+    /// Both raise 57, 61, 70, 75.
+    void Escribe(std::string_view octetos);
+    void Confirma();
+
+private:
+    std::string real_, temporal_;
+    unsigned permisos_;
+    int fd_ = -1;
+};
+
+/// Replaces a file as a whole, as FicheroNuevo does. Raises 52, 57, 61, 70, 75, 76.
 void ReemplazaFichero(const std::string& ruta, std::string_view octetos);
+/// The same with the octets of another file. Raises what reading and writing raise.
+void CopiaFichero(const std::string& origen, const std::string& destino);
 
 /// Writes a file in place, replacing what is there; a failure leaves it half written. Raises as above.
 void EscribeFichero(const std::string& ruta, std::string_view octetos);

@@ -1,22 +1,16 @@
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstring>
 #include <vector>
 
-#include "platform/ficheros.h"
 #include "record/avance.h"
+#include "record/lector_muestras.h"
 #include "record/leer_dat.h"
 #include "record/leer_dat_comun.h"
 
 namespace veldix {
 
 namespace {
-
-static_assert(std::endian::native == std::endian::little, "samples are unpacked as they lie in the file");
-
-constexpr std::size_t kCabecera = 8;  // sample number and time stamp
-constexpr std::size_t kTrozo = 256 * 1024;
 
 using Octeto = std::array<std::int16_t, 8>;
 
@@ -38,41 +32,13 @@ void Desempaqueta(const unsigned char* de, int n, std::int16_t* estados)
     if (n > 0) std::memcpy(estados, kEstados[*de].data(), sizeof(std::int16_t) * static_cast<std::size_t>(n));
 }
 
-/// Whole samples of a file, one after another.
-class LectorMuestras {
-public:
-    LectorMuestras(const std::string& ruta, std::size_t largo)
-        : fichero_(ruta), largo_(largo), buf_(std::max<std::size_t>(1, kTrozo / largo) * largo)
-    {
-    }
-
-    /// The next sample, null where the file ends before its end.
-    const unsigned char* Lee()
-    {
-        if (lleno_ - pos_ < largo_) {
-            pos_ = 0;
-            lleno_ = fichero_.Lee({reinterpret_cast<char*>(buf_.data()), buf_.size()});
-            if (lleno_ < largo_) return nullptr;
-        }
-        const unsigned char* muestra = buf_.data() + pos_;
-        pos_ += largo_;
-        return muestra;
-    }
-
-private:
-    LectorTrozos fichero_;
-    std::size_t largo_, pos_ = 0, lleno_ = 0;
-    std::vector<unsigned char> buf_;
-};
-
 void LeeMuestras(RecordStore& s)
 {
     const int muestras = s.Muestras.UBound(1), analogicos = s.Muestras.UBound(2);
     const int digitales = std::max<int>(s.NumDigital, 0);
     const auto na = static_cast<std::size_t>(analogicos);
-    const std::size_t palabras = (static_cast<std::size_t>(digitales) + 15) / 16;
     const EscalaCanales escala(s, 32768.0);
-    LectorMuestras fichero(s.FicheroDat, kCabecera + 2 * (na + palabras));
+    LectorMuestras fichero(s.FicheroDat, analogicos, digitales);
     std::vector<std::int16_t> crudos(na);
     FilasMuestra filas(s, analogicos);
     PasoGasolino gasolino(muestras);
@@ -83,9 +49,9 @@ void LeeMuestras(RecordStore& s)
         std::int32_t tiempo = 0;
         std::memcpy(&tiempo, p + 4, sizeof tiempo);
         s.Tiempos(i) = static_cast<float>(tiempo);
-        std::memcpy(crudos.data(), p + kCabecera, 2 * na);
+        std::memcpy(crudos.data(), p + LectorMuestras::kCabecera, 2 * na);
         escala.Aplica(crudos.data(), nullptr, i == 1, filas.muestras, filas.prim, filas.sec);
-        if (filas.dig) Desempaqueta(p + kCabecera + 2 * na, digitales, filas.dig);
+        if (filas.dig) Desempaqueta(p + LectorMuestras::kCabecera + 2 * na, digitales, filas.dig);
         gasolino.Muestra();
     }
 }

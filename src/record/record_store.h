@@ -173,6 +173,9 @@ struct GrupoBanderas {
     bool DFTHecha = false;
     bool ErrorFormato = false;
     bool CancelaImpresion = false;
+    bool ConvierteYSale = false;  ///< the copy in ASCII is made instead of going on with this record
+    std::string FicheroAscii;     ///< path of that copy, without extension
+    bool NuevoTool = false;       ///< a tool is to be added, else one is to be removed
 };
 
 /// Running phasors of the record and what the analysis views plot of them.

@@ -188,6 +188,24 @@ TEST_F(Cli, FailureOrWrongUsageEndsWellOrPrintsAHalfResult)
     EXPECT_TRUE(Corre("samples d/rec.dat --help --lang en").starts_with("Usage:"));
 }
 
+TEST_F(Cli, AsciiCopyIsNotTheRecordOrIsMadeOverIt)
+{
+    Registro("bin", "SE,R,1997", ",2,1,P", "BINARY");
+    c.Escribe("d/bin.dat", std::string("\1\0\0\0\0\0\0\0\7\0\370\377\1\0", 14));
+    c.Escribe("d/bin.hdr", "h");
+    const std::string antes = Corre("samples d/bin.dat --reference secondary");
+    c.Escribe("d/otro.dat", "old");
+    EXPECT_EQ(Corre("ascii d/bin.dat d/otro"), "");
+    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/otro.dat")), " 1,0,7,-8,1\r\n");
+    EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/otro.cfg")).ends_with("4/5/6\r\nASCII\r\r\n1\r\n\r\n"));
+    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/otro.hdr")), "h");
+    EXPECT_EQ(Corre("samples d/otro.dat --reference secondary"), antes);
+    EXPECT_EQ(Corre("ascii d/bin.dat d/BIN"), "1veldix-cli: Error 55: File already open\n");
+    EXPECT_EQ(Corre("--lang en ascii d/rec.dat d/x"), "1veldix-cli: The record is not in BINARY format.\n");
+    for (const char* linea : {"ascii d/bin.dat d/", "ascii d/bin.dat", "ascii d/bin.dat d/x --sample 1"})
+        EXPECT_EQ(Corre(linea).front(), '2') << linea;
+}
+
 /// The pages of a report as its titles tell them, and whether it was ended.
 class Informe : public Cli {
 protected:

@@ -1,7 +1,5 @@
 #include "platform/ficheros.h"
 
-#include <unistd.h>
-
 #include <climits>
 #include <cstdlib>
 #include <filesystem>
@@ -15,14 +13,7 @@ namespace veldix {
 namespace {
 
 namespace fs = std::filesystem;
-using prueba::Carpeta, prueba::LeeTodo, prueba::NumeroDeError;
-
-/// An ordinary user for the time of a test that root runs.
-struct SinPrivilegios {
-    SinPrivilegios() { EXPECT_EQ(setresuid(otro, otro, uid), 0); }
-    ~SinPrivilegios() { EXPECT_EQ(setresuid(uid, uid, uid), 0); }
-    const uid_t uid = geteuid(), otro = uid == 0 ? 65534 : uid;
-};
+using prueba::Carpeta, prueba::LeeTodo, prueba::NumeroDeError, prueba::SinPrivilegios;
 
 TEST(Ficheros, FailWithTheNumberOfWhatIsMissingOrForbidden)
 {

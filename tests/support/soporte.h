@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <deque>
 #include <filesystem>
@@ -68,6 +69,13 @@ private:
         bool aceptar;
     };
     std::deque<Esperada> esperadas_;
+};
+
+/// An ordinary user for the time of a test that root runs.
+struct SinPrivilegios {
+    SinPrivilegios() { EXPECT_EQ(setresuid(otro, otro, uid), 0); }
+    ~SinPrivilegios() { EXPECT_EQ(setresuid(uid, uid, uid), 0); }
+    const uid_t uid = geteuid(), otro = uid == 0 ? 65534 : uid;
 };
 
 /// Puts the separators of a locale for the time of a test.

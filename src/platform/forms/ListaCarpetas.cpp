@@ -5,12 +5,14 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QStyle>
 
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/forms/formulario.h"
+#include "platform/textos.h"
 
 namespace veldix {
 
@@ -125,10 +127,13 @@ void ListaCarpetas::Llena()
     MuestraActual();
 }
 
-/// The folder with some of what is above and below it.
+/// The folder with some of what is above and below it, sideways no further than it is indented.
 void ListaCarpetas::MuestraActual()
 {
     scrollToItem(currentItem(), PositionAtCenter);
+    QScrollBar* barra = horizontalScrollBar();
+    const int sangria = visualItemRect(currentItem()).left() + barra->value();
+    barra->setValue(qMax(0, sangria - viewport()->width() / 2));
 }
 
 /// Lines are as wide as the list at least, so that all of it takes clicks; wider ones scroll.
@@ -164,6 +169,18 @@ void ListaCarpetas::keyPressEvent(QKeyEvent* evento)
 QSize ListaCarpetas::sizeHint() const
 {
     return {fontMetrics().averageCharWidth() * 34, fontMetrics().height() * 14};
+}
+
+bool SigueUnidad(const ListaUnidades& unidades, ListaCarpetas& carpetas)
+{
+    try {
+        carpetas.Pon(unidades.Unidad());
+        return true;
+    } catch (const ErrorEjecucion& e) {
+        if (e.numero != error::kDispositivo) throw;
+    }
+    Avisa(Textos(149), Icono::Critico);
+    return false;
 }
 
 ListaClic::ListaClic(QWidget* padre) : QListWidget(padre)

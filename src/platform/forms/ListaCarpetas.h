@@ -57,6 +57,9 @@ private:
     std::string ruta_;
 };
 
+/// Moves folders to the chosen drive; where that does not respond, its message and false. Raises 76.
+bool SigueUnidad(const ListaUnidades& unidades, ListaCarpetas& carpetas);
+
 /// A list that reports each choice once. With nothing selected an arrow key takes the first line.
 class ListaClic : public QListWidget {
     Q_OBJECT

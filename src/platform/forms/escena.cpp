@@ -23,6 +23,8 @@ QMessageBox::Icon IconoQt(Icono icono)
     switch (icono) {
         case Icono::Informacion:
             return QMessageBox::Information;
+        case Icono::Exclamacion:
+            return QMessageBox::Warning;
         case Icono::Critico:
             return QMessageBox::Critical;
         case Icono::Pregunta:
@@ -120,6 +122,11 @@ void LeeDirectoriosAjustes()
 void ActivaOrdenesPlantilla()
 {
     if (escena.activaPlantilla) escena.activaPlantilla();
+}
+
+void ActualizaTools()
+{
+    if (escena.actualizaTools) escena.actualizaTools();
 }
 
 void MuestraGasolinoOndas(const QString& titulo)

@@ -19,6 +19,8 @@ struct Escena {
     std::function<void()> ocultaMenu;
     std::function<void()> leeDirectorios;   ///< takes the default folders from the settings; shows its error
     std::function<void()> activaPlantilla;  ///< the menu commands that need a template in force
+    /// Shows the tools of the settings on the menu. Raises what reading them raises.
+    std::function<void()> actualizaTools;
     std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir;  ///< true where it took the key
     /// The gauge of the wave and digital views: shows it with a caption, steps it, unloads it.
     std::function<void(const QString&)> muestraGasolinoOndas;
@@ -35,6 +37,7 @@ void MuestraMenu();
 void OcultaMenu();
 void LeeDirectoriosAjustes();
 void ActivaOrdenesPlantilla();
+void ActualizaTools();
 void MuestraGasolinoOndas(const QString& titulo);
 void PonGasolinoOndas(int valor);
 void DescargaGasolinoOndas();

@@ -56,7 +56,7 @@ void frmPlantilla::Dispone()
     elector_->pie->addWidget(Label6);
     elector_->pie->addWidget(Combo1, 1);
     setTabOrder(elector_->File1, Combo1);
-    setTabOrder(Combo1, elector_->Dir1);
+    setTabOrder(Combo1, elector_->carpetas->Dir1);
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);
     for (QPushButton* b : {cmdBuscar, cmdModif, cmdNueva, cmdcancel})

@@ -1,0 +1,27 @@
+#include "batch/ordenes.h"
+#include "platform/avisos.h"
+#include "platform/ficheros.h"
+#include "record/copia_ascii.h"
+
+namespace veldix {
+
+Salida OrdenAscii(const Argumentos& a, const Consola& consola)
+{
+    const std::string& destino = a.sueltos[1];
+    if (NombreDe(destino).empty()) {
+        Avisa(consola.espanol ? "El destino debe ser un nombre de fichero, sin extensión."
+                              : "The destination must be a file name, without extension.");
+        return Salida::MalUso;
+    }
+    if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
+    if (store.FormatoDat != "BINARY") {
+        Avisa(consola.espanol ? "El registro no está en formato BINARY."
+                              : "The record is not in BINARY format.");
+        return Salida::Fallida;
+    }
+    store.FicheroAscii = destino;
+    ConvierteAscii(store);
+    return Salida::Hecha;
+}
+
+}  // namespace veldix
