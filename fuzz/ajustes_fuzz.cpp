@@ -4,6 +4,8 @@
 #include "platform/textos.h"
 #include "pruebas.h"
 #include "shell/ajustes.h"
+#include "tools/herramientas.h"
+#include "tools/tools_ini.h"
 
 namespace veldix::fuzz {
 

@@ -6,6 +6,7 @@
 #include "platform/textos.h"
 #include "platform/vista.h"
 #include "support/soporte.h"
+#include "tools/tools_ini.h"
 
 namespace veldix {
 namespace {

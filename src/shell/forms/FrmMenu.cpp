@@ -6,6 +6,7 @@
 #include "platform/forms/escena.h"
 #include "platform/textos.h"
 #include "shell/ajustes.h"
+#include "tools/tools_ini.h"
 
 namespace veldix {
 
@@ -50,9 +51,7 @@ FrmMenu::FrmMenu() : Vista(etiqueta::kMenu)
 /// The order matters: where a settings file fails, the rest is left as it was built.
 void FrmMenu::Form_Load()
 {
-    const std::int16_t herramientas = LeeTools(store);
-    CreaHerramientas(herramientas);
-    mnuanalisis->menuAction()->setEnabled(herramientas != 0);
+    ActivaAnalisis();
     Ventana().showMaximized();
     ColocaEmblema();
     RepasaSesion(store, nullptr);
@@ -124,10 +123,15 @@ void FrmMenu::CreaHerramientas(int cuenta)
         const int i = static_cast<int>(mnuanal.size()) + 1;
         QAction* a = mnuanalisis->addAction(QString());
         a->setObjectName(QString("mnuanal%1").arg(i));
-        a->setVisible(false);
         Conecta(a, &QAction::triggered, this, [i](FrmMenu* menu) { menu->mnuanal_Click(i); });
         mnuanal.push_back(a);
     }
+}
+
+void FrmMenu::QuitaHerramientas(int cuenta)
+{
+    for (; static_cast<int>(mnuanal.size()) > qMax(cuenta, 1); mnuanal.pop_back())
+        delete mnuanal.back();
 }
 
 void FrmMenu::PonRotulos()
@@ -178,7 +182,10 @@ void FrmMenu::ActivaPlantilla()
 
 void FrmMenu::ActivaAnalisis()
 {
-    mnuanalisis->menuAction()->setEnabled(LeeTools(store) != 0);
+    const std::int16_t cuenta = LeeTools(store);
+    QuitaHerramientas(cuenta);
+    CreaHerramientas(cuenta);
+    mnuanalisis->menuAction()->setEnabled(cuenta != 0);
 }
 
 }  // namespace veldix

@@ -11,6 +11,7 @@
 
 #include "platform/forms/formulario.h"
 #include "platform/forms/iconos.h"
+#include "platform/tabla.h"
 
 namespace veldix {
 
@@ -24,9 +25,12 @@ public:
 
     /// Unloads the choosers, which list channels and groups of the record and template before.
     static void DescargaSelectores();
+    /// The same with all else that is about the record before: set-up pages, its conversion.
+    static void OlvidaRegistro();
     /// A template in force makes these commands available.
     void ActivaPlantilla();
-    /// Enables the tools menu where `tools.ini` has tools. Raises what reading it raises.
+    /// The entries of the tools menu for those of `tools.ini`; the menu is enabled where there are any.
+    /// Raises what reading it raises.
     void ActivaAnalisis();
 
     /// What the main window does for the menu.
@@ -49,6 +53,7 @@ private:
     QMenu* Submenu(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
     void ConectaMenus();
     void CreaHerramientas(int cuenta);
+    void QuitaHerramientas(int cuenta);
     void ColocaEmblema();
     void PonRotulos();
     void LeeTextos();
@@ -57,6 +62,8 @@ private:
     void mnuAbrirComtrade_Click();
     void mnuCerrarComtrade_Click();
     void mnuPlantilla_Click();
+    void mnuAñadirTool_Click();
+    void mnuBorrartool_Click();
     void mnuDir_defecto_Click();
     void mnutraducirCOMTRADE_Click();
     void mnuEspanol_Click();
@@ -85,8 +92,8 @@ private:
     QMenu *mnuFicheros, *mnuOndas, *mnuDigital, *mnuanalisis;
     QAction *mnuFasores, *mnuInform;
     QAction *mnuCanalog, *mnuCompanalog, *mnuDigGrupos, *mnuCompdig;
-    std::vector<QAction*> mnuanal;         ///< tool i at i - 1
-    std::vector<std::string> rutasTools_;  ///< its command
+    std::vector<QAction*> mnuanal;     ///< tool i at i - 1; the first is always there
+    Tabla1<std::string> ComandosTool;  ///< 1 to the count of tools and one more, when the menu was opened
     Emblema* Image1 = nullptr;
     QLabel* Label1 = nullptr;
     QLabel* Lblversion = nullptr;  ///< the last one made

@@ -10,12 +10,18 @@
 #include "platform/textos.h"
 #include "record/forms/frmAjustes.h"
 #include "shell/ajustes.h"
+#include "shell/forms/Conversion.h"
 #include "shell/forms/FrmMenu.h"
+#include "shell/forms/Mensaje.h"
 #include "shell/forms/frmAbrirComtrade.h"
 #include "shell/forms/frmDirect.h"
+#include "shell/forms/poscamb.h"
 #include "templates/forms/cadena.h"
 #include "templates/forms/frmPlantilla.h"
 #include "templates/plantilla.h"
+#include "tools/forms/frmNuevosTools.h"
+#include "tools/herramientas.h"
+#include "tools/tools_ini.h"
 #include "waves/forms/frmNewCompanalog.h"
 #include "waves/forms/frmNewOndas.h"
 
@@ -41,7 +47,15 @@ void FrmMenu::DescargaSelectores()
     frmGrid::unica.Descarga();
 }
 
-/// Entries of the tools menu whose window is not part of the program yet have no handler.
+void FrmMenu::OlvidaRegistro()
+{
+    DescargaSelectores();
+    AbandonaPaginas();
+    Mensaje::unica.Descarga();
+    Conversion::unica.Descarga();
+    poscamb::unica.Descarga();
+}
+
 void FrmMenu::ConectaMenus()
 {
     const auto orden = [this](const char* nombre, auto manejador) {
@@ -50,6 +64,8 @@ void FrmMenu::ConectaMenus()
     orden("mnuAbrirComtrade", &FrmMenu::mnuAbrirComtrade_Click);
     orden("mnuCerrarComtrade", &FrmMenu::mnuCerrarComtrade_Click);
     orden("mnuPlantilla", &FrmMenu::mnuPlantilla_Click);
+    orden("mnuAñadirTool", &FrmMenu::mnuAñadirTool_Click);
+    orden("mnuBorrartool", &FrmMenu::mnuBorrartool_Click);
     orden("mnuDir_defecto", &FrmMenu::mnuDir_defecto_Click);
     orden("mnutraducirCOMTRADE", &FrmMenu::mnutraducirCOMTRADE_Click);
     orden("mnuEspanol", &FrmMenu::mnuEspanol_Click);
@@ -69,18 +85,20 @@ void FrmMenu::ConectaMenus()
 void FrmMenu::mnuAbrirComtrade_Click()
 {
     const bool abierto = frmAbrirComtrade().Carga();
-    if (abierto) {
-        DescargaSelectores();
-        AbandonaPaginas();
-    }
+    if (abierto) OlvidaRegistro();
     if (principal.muestraRegistro) principal.muestraRegistro();
-    if (abierto && store.FormatoDat == "ASCII") frmPlantilla::unica.Muestra();
+    if (!abierto) return;
+    if (store.FormatoDat == "ASCII") {
+        frmPlantilla::unica.Muestra();
+    } else if (store.FormatoDat == "BINARY") {
+        frmPlantilla::unica.Descarga();  // it comes behind the choice
+        poscamb::unica.Muestra();
+    }
 }
 
 void FrmMenu::mnuCerrarComtrade_Click()
 {
-    DescargaSelectores();
-    AbandonaPaginas();
+    OlvidaRegistro();
     CierraRegistro(store);
     if (principal.muestraRegistro) principal.muestraRegistro();
 }
@@ -88,6 +106,18 @@ void FrmMenu::mnuCerrarComtrade_Click()
 void FrmMenu::mnuPlantilla_Click()
 {
     frmPlantilla::unica.Muestra();
+}
+
+void FrmMenu::mnuAñadirTool_Click()
+{
+    store.NuevoTool = true;
+    frmNuevosTools::unica.Muestra();
+}
+
+void FrmMenu::mnuBorrartool_Click()
+{
+    store.NuevoTool = false;
+    frmNuevosTools::unica.Muestra();
 }
 
 void FrmMenu::mnuDir_defecto_Click()
@@ -218,20 +248,20 @@ void FrmMenu::mnuInform_Click()
         frmAjustes::Abre();
 }
 
+/// Entries beyond the tools, which a file changed from outside leaves, are blank.
 void FrmMenu::mnuanalisis_Click()
 {
-    const std::int16_t cuenta = LeeTools(store);
-    CreaHerramientas(cuenta);
-    const ToolsIni ini = LeeToolsIni(store);
-    rutasTools_.assign(mnuanal.size(), {});
+    constexpr int kBlancos = 22;
+    CreaHerramientas(LeeTools(store));
+    const std::vector<std::string> lineas = LeeToolsIni(store).herramientas;
+    ComandosTool = Tabla1<std::string>(static_cast<int>(lineas.size()) + 1);
     const bool activas = store.RegistroAbierto && store.PlantillaAplicada;
     for (std::size_t k = 0; k < mnuanal.size(); ++k) {
-        const bool hay = k < ini.herramientas.size();
-        const Herramienta h = hay ? ParteHerramienta(ini.herramientas[k]) : Herramienta{};
-        mnuanal[k]->setText(Q(h.nombre));
-        mnuanal[k]->setVisible(!h.nombre.empty());
+        const bool hay = k < lineas.size();
+        const Herramienta h = hay ? ParteHerramienta(lineas[k]) : Herramienta{};
+        mnuanal[k]->setText(hay ? Q(h.nombre) : QString(kBlancos, QLatin1Char(' ')));
         mnuanal[k]->setEnabled(hay && activas);
-        rutasTools_[k] = h.orden;
+        if (hay) ComandosTool(static_cast<int>(k) + 1) = h.orden;
     }
 }
 
@@ -250,8 +280,7 @@ void FrmMenu::mnuanal_Click(int i)
         Avisa(Textos(92), Icono::Critico);
         return;
     }
-    const auto sitio = static_cast<std::size_t>(i - 1);
-    if (sitio < rutasTools_.size() && !rutasTools_[sitio].empty()) ArrancaPrograma(rutasTools_[sitio]);
+    if (i <= ComandosTool.Cuantos() && !ComandosTool(i).empty()) ArrancaPrograma(ComandosTool(i));
 }
 
 }  // namespace veldix

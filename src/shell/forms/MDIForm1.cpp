@@ -25,12 +25,15 @@
 #include "record/avance.h"
 #include "shell/ajustes.h"
 #include "shell/forms/Cancelar.h"
+#include "shell/forms/Conversion.h"
 #include "shell/forms/FrmMenu.h"
 #include "shell/forms/gasolino.h"
+#include "shell/forms/gasolino2.h"
 #include "shell/forms/gasolino_ondas.h"
 #include "shell/forms/traductor.h"
 #include "shell/linea_ordenes.h"
 #include "templates/plantilla.h"
+#include "tools/tools_ini.h"
 #include "waves/forms/frmVerCmpang.h"
 #include "waves/forms/frmVerOndas.h"
 
@@ -117,6 +120,9 @@ void MDIForm1::LlenaGanchos()
         FrmMenu::DescargaSelectores();
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
     };
+    escena.actualizaTools = [] {
+        if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaAnalisis();
+    };
     escena.teclaSalir = [this](int tecla, Qt::KeyboardModifiers estado) { return TeclaSalir(tecla, estado); };
     escena.muestraGasolinoOndas = [](const QString& titulo) { gasolino_ondas::unica.CargaNueva(titulo); };
     escena.ponGasolinoOndas = [](int valor) {
@@ -134,6 +140,13 @@ void MDIForm1::LlenaGanchos()
     ganchosRegistro.LlenarGasolino = [](bool relativo, std::int16_t valor) {
         if (gasolino* g = gasolino::unica.Cargado()) g->LlenarGasolino(relativo, valor);
     };
+    ganchosRegistro.MuestraGasolino2 = [](int maximo) {
+        gasolino2::unica.CargaNueva(Conversion::unica.Cargado()).ProgressBar1->setRange(0, maximo);
+    };
+    ganchosRegistro.PonGasolino2 = [](int valor) {
+        if (gasolino2* g = gasolino2::unica.Cargado()) g->ProgressBar1->setValue(valor);
+    };
+    ganchosRegistro.DescargaGasolino2 = [] { gasolino2::unica.Descarga(); };
     FrmMenu::principal = {[this] { close(); }, [this] { MuestraRegistro(); }, [this] { PonRotulos(); }};
 }
 

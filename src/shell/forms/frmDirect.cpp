@@ -10,7 +10,7 @@
 #include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
 #include "record/record_store.h"
-#include "shell/ajustes.h"
+#include "tools/tools_ini.h"
 
 namespace veldix {
 
@@ -111,13 +111,7 @@ QString frmDirect::Ruta(const Carpeta& carpeta)
 
 void frmDirect::UnidadElegida(const Carpeta& carpeta)
 {
-    try {
-        carpeta.dir->Pon(carpeta.drv->Unidad());
-        carpeta.txt->setText(Ruta(carpeta));
-    } catch (const ErrorEjecucion& e) {
-        if (e.numero != error::kDispositivo) throw;
-        Avisa(Textos(149), Icono::Critico);
-    }
+    if (SigueUnidad(*carpeta.drv, *carpeta.dir)) carpeta.txt->setText(Ruta(carpeta));
 }
 
 void frmDirect::cmdOK_Click()
@@ -139,12 +133,9 @@ void frmDirect::cmdOK_Click()
 /// Puts the folders into the file, its tools as they stand there.
 void frmDirect::Guarda()
 {
-    ToolsIni t = LeeToolsIni(store);
+    const ToolsIni t = LeeToolsIni(store);
     store.Idioma = t.Idioma;
-    t.DirDatos = store.DirDatos;
-    t.DirPlantillas = store.DirPlantillas;
-    t.DirAplic = store.DirAplic;
-    EscribeToolsIni(store, t);
+    EscribeHerramientas(store, t);
 }
 
 void frmDirect::cmdcancel_Click()

@@ -134,8 +134,9 @@ TEST_F(MenuPrincipal, ToolsShowAnOlderListOrStartInSpiteOfTheirTests)
         std::string vistos;
         for (int i = 1; i <= 5; ++i) {
             const QAction* a = Accion("mnuanal" + std::to_string(i));
-            vistos += U(a->text().trimmed()) + "|";
-            EXPECT_EQ(a->isEnabled(), habilitadas && !a->text().trimmed().isEmpty()) << nombres << i;
+            const bool vacia = a->text() == QString(22, ' ');
+            vistos += vacia ? "|" : U(a->text()) + "|";
+            EXPECT_EQ(a->isEnabled(), habilitadas && !vacia) << nombres << i;
         }
         EXPECT_EQ(vistos, nombres);
     };

@@ -1,0 +1,166 @@
+#include "tools/forms/frmNuevosTools.h"
+
+#include <QGridLayout>
+
+#include <utility>
+
+#include "platform/ficheros.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
+#include "platform/textos.h"
+#include "record/record_store.h"
+#include "tools/tools_ini.h"
+
+namespace veldix {
+
+Portador<frmNuevosTools> frmNuevosTools::unica;
+
+frmNuevosTools::frmNuevosTools() : Formulario(escena.principal, Qt::Dialog)
+{
+    setObjectName("frmNuevosTools");
+    CreaControles();
+    Dispone();
+    Conecta(File1, &ListaFicheros::Click, this, &frmNuevosTools::File1_Click);
+    Conecta(List1, &ListaClic::Click, this, &frmNuevosTools::List1_Click);
+    Conecta(cmdOK, &QPushButton::clicked, this, &frmNuevosTools::cmdOK_Click);
+    Conecta(cmdcancel, &QPushButton::clicked, this, &frmNuevosTools::cmdcancel_Click);
+    if (!Atrapa(this, [this] { store.NuevoTool ? ModoNuevo() : ModoBorrar(); }) && !store.NuevoTool)
+        Descarga();
+    Centra(*this);
+}
+
+void frmNuevosTools::CreaControles()
+{
+    txtNombre = new QLineEdit(this);
+    txtNombre->setObjectName("txtNombre");
+    txtPath = new QLineEdit(this);
+    txtPath->setObjectName("txtPath");
+    File1 = new ListaFicheros(this);
+    File1->setObjectName("File1");
+    carpetas_ = new ElectorCarpetas(this);
+    List1 = new ListaClic(this);
+    List1->setObjectName("List1");
+    Label1 = CreaRotulo(txtNombre, "Label1", Rotulo(55, "Nombre de la herramienta:"));
+    Label2 = CreaRotulo(txtPath, "Label2", Rotulo(56, "Programa:"));
+    Label3 = CreaRotulo(File1, "Label3", U(SinAcelerador(Q(Rotulo(1, "&Ficheros"))) + ":"));
+    Label6 = CreaRotulo(List1, "Label6", Rotulo(9, "Herramientas de Análisis") + ":");
+    cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
+    cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
+    PonBotones(cmdOK, cmdcancel);
+}
+
+void frmNuevosTools::Dispone()
+{
+    const auto columna = [](QLabel* rotulo, ListaClic* lista) {
+        auto* c = new QVBoxLayout;
+        c->setSpacing(6);
+        c->addWidget(rotulo);
+        c->addWidget(lista, 1);
+        return c;
+    };
+    auto* listas = new QHBoxLayout;
+    listas->setSpacing(16);
+    listas->addLayout(columna(Label3, File1), 1);
+    listas->addWidget(carpetas_, 1);
+    listas->addLayout(columna(Label6, List1), 1);
+    auto* botones = new QHBoxLayout;
+    botones->addStretch(1);
+    botones->addWidget(cmdOK);
+    botones->addWidget(cmdcancel);
+    auto* todo = new QGridLayout(this);
+    todo->setVerticalSpacing(6);
+    todo->addWidget(Label1, 0, 0);
+    todo->addWidget(txtNombre, 0, 1);
+    todo->addWidget(Label2, 1, 0);
+    todo->addWidget(txtPath, 1, 1);
+    todo->addLayout(listas, 2, 0, 1, 2);
+    todo->addLayout(botones, 3, 0, 1, 2);
+    todo->setRowStretch(2, 1);
+}
+
+/// A default folder that has gone leaves the lists where the program stands, so that another can be chosen.
+void frmNuevosTools::ModoNuevo()
+{
+    setWindowTitle(Q(Rotulo(53, "Añadir herramienta de análisis")));
+    Label6->setEnabled(false);
+    List1->setEnabled(false);
+    Conecta(carpetas_->Dir1, &ListaCarpetas::Cambio, this, &frmNuevosTools::Dir1_Change);
+    Dir1_Change();
+    carpetas_->Pon(store.DirAplic);
+}
+
+void frmNuevosTools::ModoBorrar()
+{
+    setWindowTitle(Q(Rotulo(54, "Eliminar herramienta de análisis")));
+    Intenta([this] { carpetas_->Pon(store.DirAplic); });
+    txtNombre->setReadOnly(true);
+    txtPath->setReadOnly(true);
+    carpetas_->setEnabled(false);
+    Label3->setEnabled(false);
+    File1->setEnabled(false);
+    for (const std::string& linea : LeeToolsIni(store).herramientas) {
+        herramientas_.push_back(ParteHerramienta(linea));
+        List1->addItem(Q(herramientas_.back().nombre));
+    }
+    List1->setFocus();
+}
+
+void frmNuevosTools::File1_Click()
+{
+    txtPath->setText(Q(UneRuta(carpetas_->Carpeta(), File1->Fichero())));
+}
+
+void frmNuevosTools::Dir1_Change()
+{
+    txtPath->setText(Q(carpetas_->Carpeta()));
+    File1->Pon(carpetas_->Carpeta(), "*");
+}
+
+const Herramienta& frmNuevosTools::Elegida() const
+{
+    return herramientas_.at(static_cast<std::size_t>(List1->Elegida()));
+}
+
+void frmNuevosTools::List1_Click()
+{
+    txtNombre->setText(Q(Elegida().nombre));
+    txtPath->setText(Q(Elegida().orden));
+}
+
+void frmNuevosTools::cmdOK_Click()
+{
+    if (store.NuevoTool)
+        Anade();
+    else if (List1->Elegida() >= 0)
+        Borra();
+}
+
+void frmNuevosTools::Anade()
+{
+    const Herramienta nueva{U(txtNombre->text()), U(txtPath->text())};
+    ToolsIni ini = LeeToolsIni(store);
+    if (const int texto = RechazoHerramienta(ini.herramientas, nueva)) {
+        Avisa(Textos(texto), Icono::Exclamacion);
+        return;
+    }
+    ini.herramientas.push_back(nueva.nombre + "=" + nueva.orden);
+    EscribeHerramientas(store, std::move(ini));
+    ActualizaTools();
+    Descarga();
+}
+
+/// The first tool of the name, be it the one that was clicked or not: the menu tells them apart no better.
+void frmNuevosTools::Borra()
+{
+    ToolsIni ini = LeeToolsIni(store);
+    if (QuitaHerramienta(ini.herramientas, Elegida().nombre)) EscribeHerramientas(store, std::move(ini));
+    ActualizaTools();
+    Descarga();
+}
+
+void frmNuevosTools::cmdcancel_Click()
+{
+    Descarga();
+}
+
+}  // namespace veldix

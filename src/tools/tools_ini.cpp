@@ -1,0 +1,82 @@
+#include "tools/tools_ini.h"
+
+#include <utility>
+
+#include "platform/fichero_ajustes.h"
+#include "platform/numeros.h"
+#include "platform/texto.h"
+
+namespace veldix {
+
+namespace {
+
+std::string SinExtremos(const std::string& linea)
+{
+    const std::string_view t = Derecha(linea, NumCaracteres(linea) < 2 ? 0 : NumCaracteres(linea) - 1);
+    return std::string(SinFinal(t, 1));
+}
+
+}  // namespace
+
+std::string RutaTools(const RecordStore& s)
+{
+    return UneRuta(s.DirIni, "tools.ini");
+}
+
+ToolsIni LeeToolsIni(const RecordStore& s)
+{
+    LectorLineas lineas = AbreAjustes(RutaTools(s));
+    ToolsIni t;
+    t.Idioma = Entero16Local(lineas.Lee());
+    t.DirDatos = lineas.Lee();
+    t.DirPlantillas = lineas.Lee();
+    t.DirAplic = lineas.Lee();
+    const std::int16_t n = Entero16Local(lineas.Lee());
+    for (int i = 1; i <= n; ++i)
+        t.herramientas.push_back(SinExtremos(lineas.Lee()));
+    return t;
+}
+
+void EscribeToolsIni(const RecordStore& s, const ToolsIni& t)
+{
+    std::vector<std::string> lineas{FormaDelimitada(t.Idioma), t.DirDatos, t.DirPlantillas, t.DirAplic,
+                                    FormaDelimitada(static_cast<std::int32_t>(t.herramientas.size()))};
+    for (const std::string& h : t.herramientas)
+        lineas.push_back("\"" + h + "\"");
+    GuardaAjustes(RutaTools(s), lineas);
+}
+
+void EscribeHerramientas(const RecordStore& s, ToolsIni t)
+{
+    t.Idioma = s.Idioma;
+    t.DirDatos = s.DirDatos;
+    t.DirPlantillas = s.DirPlantillas;
+    t.DirAplic = s.DirAplic;
+    EscribeToolsIni(s, t);
+}
+
+std::int16_t LeeTools(RecordStore& s)
+{
+    LectorLineas lineas = AbreAjustes(RutaTools(s));
+    s.Idioma = Entero16Local(lineas.Lee());
+    s.DirDatos = lineas.Lee();
+    s.DirPlantillas = lineas.Lee();
+    s.DirAplic = lineas.Lee();
+    return Entero16Local(lineas.Lee());
+}
+
+void LeeDirectorios(RecordStore& s)
+{
+    LectorLineas lineas = AbreAjustes(RutaTools(s));
+    lineas.Lee();
+    s.DirDatos = lineas.Lee();
+    s.DirPlantillas = lineas.Lee();
+    s.DirAplic = lineas.Lee();
+}
+
+std::int16_t LeeIdiomaTools(const RecordStore& s)
+{
+    return Entero16Local(AbreAjustes(RutaTools(s)).Lee());
+}
+
+}  // namespace veldix

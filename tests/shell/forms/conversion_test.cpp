@@ -1,0 +1,145 @@
+#include "shell/forms/Conversion.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "platform/ficheros.h"
+#include "platform/forms/ListaCarpetas.h"
+#include "platform/forms/dialogo_fichero.h"
+#include "shell/forms/Mensaje.h"
+#include "shell/forms/poscamb.h"
+#include "support/arbol.h"
+#include "templates/forms/frmPlantilla.h"
+
+namespace veldix {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A BINARY record opened by the menu.
+class Convierte : public prueba::Arbol {
+protected:
+    Convierte()
+    {
+        Registro("bin", Cfg("SE UNO,R", "2", "BINARY"));
+        c.Escribe("d/bin.dat",
+                  std::string("\1\0\0\0\0\0\0\0\7\0\10\0\1\0\2\0\0\0\350\3\0\0\11\0\12\0\0\0", 28));
+        Arranca();
+    }
+    ~Convierte() override { PonDialogoFichero(nullptr); }
+
+    void Abre(const char* dat = "d/bin.dat")
+    {
+        PonDialogoFichero([=, this](const PeticionFichero&) { return std::optional(c.Ruta(dat)); });
+        Accion("mnuAbrirComtrade")->trigger();
+    }
+    void Pulsa(const char* boton, Formulario* form)
+    {
+        if (!form) throw std::runtime_error(std::string("no form for ") + boton);
+        QTest::mouseClick(Hijo<QPushButton>(boton, form), Qt::LeftButton);
+        EXPECT_EQ(cajas->Pendientes(), 0U);
+    }
+    /// Opens the record, and the conversion by a button of the choice; types a name.
+    void Empieza(const char* boton, const char* nombre)
+    {
+        frmPlantilla::unica.Descarga();
+        Abre();
+        Pulsa(boton, poscamb::unica.Cargado());
+        ASSERT_TRUE(Conversion::unica.Cargado());
+        Senda()->setText(nombre);
+    }
+    void Acepta() { Pulsa("Aceptar", Conversion::unica.Cargado()); }
+    QLineEdit* Senda() const { return Hijo<QLineEdit>("Senda", Conversion::unica.Cargado()); }
+    std::string Camin() const { return U(Hijo<QLabel>("camin", Conversion::unica.Cargado())->text()); }
+    /// The windows that stand: p choice, c conversion, m help, t template.
+    static std::string EnPie()
+    {
+        return std::string(poscamb::unica.Cargado() ? "p" : "") + (Conversion::unica.Cargado() ? "c" : "") +
+               (Mensaje::unica.Cargado() ? "m" : "") + (frmPlantilla::unica.Cargado() ? "t" : "");
+    }
+};
+
+TEST_F(Convierte, TheChoiceLeadsElsewhereOrOutlivesItsRecord)
+{
+    const std::tuple<const char*, const char*, bool> botones[] = {{"continuar", "t", true},
+                                                                  {"Convertir_continuar", "c", false},
+                                                                  {"Convertir_salir", "c", true},
+                                                                  {"cmdcancel", "", false}};
+    for (const auto& [boton, enPie, sale] : botones) {
+        frmPlantilla::unica.Muestra();  // of an earlier record
+        Abre();
+        EXPECT_EQ(EnPie(), "p");
+        store.ConvierteYSale = !sale;
+        Pulsa(boton, poscamb::unica.Cargado());
+        EXPECT_EQ(EnPie(), enPie) << boton;
+        EXPECT_EQ(store.ConvierteYSale, std::string(enPie) == "c" ? sale : !sale) << boton;
+        EXPECT_TRUE(store.RegistroAbierto && !store.PlantillaAplicada);
+    }
+    Empieza("Convertir_continuar", "x");
+    Pulsa("Ayuda", Conversion::unica.Cargado());
+    EXPECT_EQ(EnPie(), "cm");
+    Pulsa("OK", Mensaje::unica.Cargado());
+    EXPECT_EQ(EnPie() + U(Senda()->text()), "c") << "anew";
+    Pulsa("Ayuda", Conversion::unica.Cargado());
+    Abre("d/rec.dat");
+    EXPECT_EQ(EnPie(), "t") << "an ASCII record";
+    Empieza("Convertir_continuar", "x");
+    Accion("mnuCerrarComtrade")->trigger();
+    EXPECT_EQ(EnPie(), "");
+}
+
+TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
+{
+    c.Escribe("d/vieja.dat", "old");
+    Empieza("Convertir_continuar", "");
+    EXPECT_EQ(Camin(), c.Ruta("d"));
+    Acepta();
+    EXPECT_EQ(EnPie(), "c") << "no name";
+    Senda()->setText("VIEJA");
+    cajas->Espera(Textos(167), Icono::Pregunta, Botones::AceptarCancelar, false);
+    Acepta();
+    EXPECT_EQ(U(Senda()->text()) + Camin(), c.Ruta("d"));
+    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/vieja.dat")), "old");
+    fs::create_directory(c.Ruta("d/sub"));
+    Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado())->Pon(c.Ruta("d/sub"));
+    EXPECT_EQ(Camin(), c.Ruta("d/sub"));
+    Senda()->setText("copia");
+    Acepta();
+    EXPECT_EQ(EnPie(), "t");
+    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/sub/copia.DAT")), " 1,0,7,8,1\r\n 2,1000,9,10,0\r\n");
+    EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/sub/copia.cfg")).ends_with("fecha\r\nASCII\r\n\r\n"));
+    EXPECT_EQ(store.Muestras(2, 2), 10.0F);
+
+    Empieza("Convertir_salir", "vieja");
+    cajas->Espera(Textos(167), Icono::Pregunta, Botones::AceptarCancelar);
+    Acepta();
+    EXPECT_EQ(EnPie(), "");
+    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/vieja.dat")), prueba::LeeTodo(c.Ruta("d/sub/copia.DAT")));
+    EXPECT_EQ(store.Muestras(2, 2), 0.0F);
+    EXPECT_TRUE(store.RegistroAbierto);
+}
+
+TEST_F(Convierte, AFailureIsSilentOrLeavesAWindow)
+{
+    Empieza("Convertir_continuar", "no/hay");
+    cajas->Espera(Textos(168), Icono::Ninguno, Botones::AceptarCancelar);
+    Acepta();
+    EXPECT_EQ(EnPie(), "");
+    Empieza("Convertir_continuar", "BIN");
+    cajas->Espera(Textos(167), Icono::Pregunta, Botones::AceptarCancelar);
+    cajas->Espera("Error 55: File already open", Icono::Critico);
+    Acepta();
+    EXPECT_EQ(EnPie(), "");
+    fs::create_directory(c.Ruta("otra"));
+    fs::copy(c.Ruta("d/bin.dat"), c.Ruta("otra/bin.dat"));
+    fs::copy(c.Ruta("d/bin.cfg"), c.Ruta("otra/bin.cfg"));
+    Abre("otra/bin.dat");
+    fs::remove_all(c.Ruta("otra"));
+    Pulsa("Convertir_salir", poscamb::unica.Cargado());
+    EXPECT_EQ(EnPie(), "c") << "the record's folder has gone";
+}
+
+}  // namespace
+}  // namespace veldix
