@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
 #include "comun.h"
 #include "dat_comun.h"
+#include "platform/ficheros.h"
 #include "pruebas.h"
+#include "record/copia_ascii.h"
 #include "record/leer_dat.h"
 
 namespace veldix::fuzz {
@@ -35,6 +38,32 @@ void CompruebaFila(const RecordStore& s, int i, const std::uint8_t* fila)
     }
 }
 
+template <class T>
+bool Iguales(const Tabla2<T>& a, const Tabla2<T>& b)
+{
+    const auto n = static_cast<std::size_t>(a.Filas()) * static_cast<std::size_t>(a.Columnas());
+    if (a.Filas() != b.Filas() || a.Columnas() != b.Columnas()) return false;
+    return n == 0 || std::memcmp(a.fila(1), b.fila(1), n * sizeof(T)) == 0;
+}
+
+/// The ASCII copy reads back as its source, but for the multiplier, which it has lost.
+void CompruebaCopia(RecordStore& s, const CasoDat& caso)
+{
+    RecordStore copia;
+    s.FicheroAscii = UneRuta(CarpetaMemoria(), "copia");
+    EscribeAsciiDat(s);
+    caso.Prepara(copia);
+    copia.TimeMult = 0;
+    copia.FicheroDat = s.FicheroAscii + ".DAT";
+    LeerDatAscii(copia);
+    Exige(Iguales(copia.Muestras, s.Muestras), "samples of the copy");
+    Exige(Iguales(copia.MuestrasPrim, s.MuestrasPrim), "primary samples of the copy");
+    Exige(Iguales(copia.MuestrasSec, s.MuestrasSec), "secondary samples of the copy");
+    Exige(Iguales(copia.MuestrasDig, s.MuestrasDig), "states of the copy");
+    Exige(std::equal(s.Tiempos.begin(), s.Tiempos.end(), copia.Tiempos.begin(), copia.Tiempos.end()),
+          "times of the copy");
+}
+
 }  // namespace
 
 int Prueba_dat_bin(Octetos entrada)
@@ -51,6 +80,7 @@ int Prueba_dat_bin(Octetos entrada)
     CompruebaMuestras(s, leidas);
     for (int i = 1; i <= std::min(leidas, s.Muestras.Filas()); ++i)
         CompruebaFila(s, i, caso.fichero.data() + static_cast<std::size_t>(i - 1) * largo);
+    CompruebaCopia(s, caso);
     return 0;
 }
 
