@@ -36,7 +36,7 @@ int RechazoHerramienta(const std::vector<std::string>& lineas, const Herramienta
     return 0;
 }
 
-bool QuitaHerramienta(std::vector<std::string>& lineas, const std::string& nombre)
+bool BorraHerramienta(std::vector<std::string>& lineas, const std::string& nombre)
 {
     const auto sitio = std::find_if(lineas.begin(), lineas.end(), [&](const std::string& linea) {
         return ParteHerramienta(linea).nombre == nombre;

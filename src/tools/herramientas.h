@@ -20,6 +20,6 @@ Herramienta ParteHerramienta(const std::string& linea);
 int RechazoHerramienta(const std::vector<std::string>& lineas, const Herramienta& nueva);
 
 /// Takes the first tool of a name out. Whether there was one.
-bool QuitaHerramienta(std::vector<std::string>& lineas, const std::string& nombre);
+bool BorraHerramienta(std::vector<std::string>& lineas, const std::string& nombre);
 
 }  // namespace veldix

@@ -1,7 +1,5 @@
 #include "tools/tools_ini.h"
 
-#include <utility>
-
 #include "platform/fichero_ajustes.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -10,10 +8,11 @@ namespace veldix {
 
 namespace {
 
+/// A tool's line without its double quotes; "" of fewer than two characters.
 std::string SinExtremos(const std::string& linea)
 {
-    const std::string_view t = Derecha(linea, NumCaracteres(linea) < 2 ? 0 : NumCaracteres(linea) - 1);
-    return std::string(SinFinal(t, 1));
+    const std::size_t n = NumCaracteres(linea);
+    return n < 2 ? std::string() : std::string(SinFinal(Derecha(linea, n - 1), 1));
 }
 
 }  // namespace

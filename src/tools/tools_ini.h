@@ -8,7 +8,7 @@
 
 namespace veldix {
 
-/// `tools.ini` as a whole: language, default folders, external tools.
+/// `tools.ini` as a whole: language and default folders stand in the same file as the external tools.
 struct ToolsIni {
     std::int16_t Idioma = 0;
     std::string DirDatos, DirPlantillas, DirAplic;

@@ -34,10 +34,10 @@ TEST(Herramientas, AToolIsRefusedForAnotherReasonOrAdmitted)
 TEST(Herramientas, AnotherToolIsTakenOut)
 {
     std::vector<std::string> lineas = {"A=1", "B=2", "A=3", "B", "=4"};
-    EXPECT_FALSE(QuitaHerramienta(lineas, "C"));
-    EXPECT_TRUE(QuitaHerramienta(lineas, "A"));
+    EXPECT_FALSE(BorraHerramienta(lineas, "C"));
+    EXPECT_TRUE(BorraHerramienta(lineas, "A"));
     EXPECT_EQ(lineas, (std::vector<std::string>{"B=2", "A=3", "B", "=4"}));
-    EXPECT_TRUE(QuitaHerramienta(lineas, ""));  // a line without "=" has no name
+    EXPECT_TRUE(BorraHerramienta(lineas, ""));  // a line without "=" has no name
     EXPECT_EQ(lineas, (std::vector<std::string>{"B=2", "A=3", "=4"}));
 }
 

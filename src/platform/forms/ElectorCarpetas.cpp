@@ -31,8 +31,8 @@ ElectorCarpetas::ElectorCarpetas(QWidget* padre)
 
 void ElectorCarpetas::Pon(const std::string& carpeta)
 {
-    Drive1->Pon(carpeta);
     Dir1->Pon(carpeta);
+    Drive1->Pon(carpeta);
 }
 
 }  // namespace veldix

@@ -19,7 +19,7 @@ struct Escena {
     std::function<void()> ocultaMenu;
     std::function<void()> leeDirectorios;   ///< takes the default folders from the settings; shows its error
     std::function<void()> activaPlantilla;  ///< the menu commands that need a template in force
-    /// Shows the tools of the settings on the menu. Raises what reading them raises.
+    /// The menu follows the tools of the settings (FrmMenu::ActivaAnalisis). Raises what reading them raises.
     std::function<void()> actualizaTools;
     std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir;  ///< true where it took the key
     /// The gauge of the wave and digital views: shows it with a caption, steps it, unloads it.

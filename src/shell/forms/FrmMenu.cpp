@@ -97,7 +97,7 @@ void FrmMenu::CreaMenus()
     mnuDigGrupos = Entrada(mnuDigital, "mnuDigGrupos", 16, "Visualización por grupos");
     mnuCompdig = Entrada(mnuDigital, "mnuCompdig", 17, "Composición de canales digitales");
     mnuanalisis = Submenu(nullptr, "mnuanalisis", 6, "Análisis");
-    CreaHerramientas(1);
+    AjustaHerramientas(1);
 }
 
 void FrmMenu::CreaMenuFicheros()
@@ -117,21 +117,17 @@ void FrmMenu::CreaMenuFicheros()
     Entrada(mnuFicheros, "mnuSalir", 11, "Salir");
 }
 
-void FrmMenu::CreaHerramientas(int cuenta)
+/// The first entry stays without tools too. Names come when the menu is opened.
+void FrmMenu::AjustaHerramientas(int cuenta)
 {
-    while (static_cast<int>(mnuanal.size()) < cuenta) {
-        const int i = static_cast<int>(mnuanal.size()) + 1;
+    for (; static_cast<int>(mnuanal.size()) > qMax(cuenta, 1); mnuanal.pop_back())
+        delete mnuanal.back();
+    for (int i = static_cast<int>(mnuanal.size()) + 1; i <= cuenta; ++i) {
         QAction* a = mnuanalisis->addAction(QString());
         a->setObjectName(QString("mnuanal%1").arg(i));
         Conecta(a, &QAction::triggered, this, [i](FrmMenu* menu) { menu->mnuanal_Click(i); });
         mnuanal.push_back(a);
     }
-}
-
-void FrmMenu::QuitaHerramientas(int cuenta)
-{
-    for (; static_cast<int>(mnuanal.size()) > qMax(cuenta, 1); mnuanal.pop_back())
-        delete mnuanal.back();
 }
 
 void FrmMenu::PonRotulos()
@@ -183,8 +179,7 @@ void FrmMenu::ActivaPlantilla()
 void FrmMenu::ActivaAnalisis()
 {
     const std::int16_t cuenta = LeeTools(store);
-    QuitaHerramientas(cuenta);
-    CreaHerramientas(cuenta);
+    AjustaHerramientas(cuenta);
     mnuanalisis->menuAction()->setEnabled(cuenta != 0);
 }
 

@@ -29,8 +29,8 @@ public:
     static void OlvidaRegistro();
     /// A template in force makes these commands available.
     void ActivaPlantilla();
-    /// The entries of the tools menu for those of `tools.ini`; the menu is enabled where there are any.
-    /// Raises what reading it raises.
+    /// Takes the head of `tools.ini` (language, folders); the tools menu gets as many entries as there are
+    /// tools and is enabled where there are any. Raises what reading raises.
     void ActivaAnalisis();
 
     /// What the main window does for the menu.
@@ -52,8 +52,7 @@ private:
     QAction* Entrada(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
     QMenu* Submenu(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
     void ConectaMenus();
-    void CreaHerramientas(int cuenta);
-    void QuitaHerramientas(int cuenta);
+    void AjustaHerramientas(int cuenta);
     void ColocaEmblema();
     void PonRotulos();
     void LeeTextos();

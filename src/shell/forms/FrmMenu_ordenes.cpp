@@ -122,7 +122,7 @@ void FrmMenu::mnuBorrartool_Click()
 
 void FrmMenu::mnuDir_defecto_Click()
 {
-    LeeDirectorios(store);
+    LeeDirectoriosAjustes();
     frmDirect::unica.Muestra();
 }
 
@@ -252,8 +252,8 @@ void FrmMenu::mnuInform_Click()
 void FrmMenu::mnuanalisis_Click()
 {
     constexpr int kBlancos = 22;
-    CreaHerramientas(LeeTools(store));
     const std::vector<std::string> lineas = LeeToolsIni(store).herramientas;
+    if (lineas.size() > mnuanal.size()) AjustaHerramientas(static_cast<int>(lineas.size()));
     ComandosTool = Tabla1<std::string>(static_cast<int>(lineas.size()) + 1);
     const bool activas = store.RegistroAbierto && store.PlantillaAplicada;
     for (std::size_t k = 0; k < mnuanal.size(); ++k) {

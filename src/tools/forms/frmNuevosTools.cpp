@@ -7,6 +7,7 @@
 #include "platform/ficheros.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
+#include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/record_store.h"
 #include "tools/tools_ini.h"
@@ -15,7 +16,7 @@ namespace veldix {
 
 Portador<frmNuevosTools> frmNuevosTools::unica;
 
-frmNuevosTools::frmNuevosTools() : Formulario(escena.principal, Qt::Dialog)
+frmNuevosTools::frmNuevosTools() : Formulario(escena.principal, Qt::Dialog), nuevo_(store.NuevoTool)
 {
     setObjectName("frmNuevosTools");
     CreaControles();
@@ -24,8 +25,8 @@ frmNuevosTools::frmNuevosTools() : Formulario(escena.principal, Qt::Dialog)
     Conecta(List1, &ListaClic::Click, this, &frmNuevosTools::List1_Click);
     Conecta(cmdOK, &QPushButton::clicked, this, &frmNuevosTools::cmdOK_Click);
     Conecta(cmdcancel, &QPushButton::clicked, this, &frmNuevosTools::cmdcancel_Click);
-    if (!Atrapa(this, [this] { store.NuevoTool ? ModoNuevo() : ModoBorrar(); }) && !store.NuevoTool)
-        Descarga();
+    const bool listo = Atrapa(this, [this] { nuevo_ ? ModoNuevo() : ModoBorrar(); });
+    if (!listo && !nuevo_) Descarga();  // there is nothing to remove
     Centra(*this);
 }
 
@@ -43,7 +44,7 @@ void frmNuevosTools::CreaControles()
     Label1 = CreaRotulo(txtNombre, "Label1", Rotulo(55, "Nombre de la herramienta:"));
     Label2 = CreaRotulo(txtPath, "Label2", Rotulo(56, "Programa:"));
     Label3 = CreaRotulo(File1, "Label3", U(SinAcelerador(Q(Rotulo(1, "&Ficheros"))) + ":"));
-    Label6 = CreaRotulo(List1, "Label6", Rotulo(9, "Herramientas de Análisis") + ":");
+    Label6 = CreaRotulo(List1, "Label6", U(SinAcelerador(Q(Rotulo(9, "Herramientas de Análisis"))) + ":"));
     cmdOK = CreaBoton(this, "cmdOK", 24, "Aceptar");
     cmdcancel = CreaBoton(this, "cmdcancel", 25, "Cancelar");
     PonBotones(cmdOK, cmdcancel);
@@ -85,7 +86,7 @@ void frmNuevosTools::ModoNuevo()
     Label6->setEnabled(false);
     List1->setEnabled(false);
     Conecta(carpetas_->Dir1, &ListaCarpetas::Cambio, this, &frmNuevosTools::Dir1_Change);
-    Dir1_Change();
+    Dir1_Change();  // moving to the folder where the lists stand already would report nothing
     carpetas_->Pon(store.DirAplic);
 }
 
@@ -129,7 +130,7 @@ void frmNuevosTools::List1_Click()
 
 void frmNuevosTools::cmdOK_Click()
 {
-    if (store.NuevoTool)
+    if (nuevo_)
         Anade();
     else if (List1->Elegida() >= 0)
         Borra();
@@ -137,9 +138,14 @@ void frmNuevosTools::cmdOK_Click()
 
 void frmNuevosTools::Anade()
 {
-    const Herramienta nueva{U(txtNombre->text()), U(txtPath->text())};
-    ToolsIni ini = LeeToolsIni(store);
-    if (const int texto = RechazoHerramienta(ini.herramientas, nueva)) {
+    const Herramienta nueva{UnaLinea(U(txtNombre->text())), UnaLinea(U(txtPath->text()))};
+    ToolsIni ini;
+    int texto = RechazoHerramienta({}, nueva);  // what the settings have no part in comes first
+    if (texto == 0) {
+        ini = LeeToolsIni(store);
+        texto = RechazoHerramienta(ini.herramientas, nueva);
+    }
+    if (texto != 0) {
         Avisa(Textos(texto), Icono::Exclamacion);
         return;
     }
@@ -149,11 +155,11 @@ void frmNuevosTools::Anade()
     Descarga();
 }
 
-/// The first tool of the name, be it the one that was clicked or not: the menu tells them apart no better.
+/// By its name: of several tools of one name the first goes.
 void frmNuevosTools::Borra()
 {
     ToolsIni ini = LeeToolsIni(store);
-    if (QuitaHerramienta(ini.herramientas, Elegida().nombre)) EscribeHerramientas(store, std::move(ini));
+    if (BorraHerramienta(ini.herramientas, Elegida().nombre)) EscribeHerramientas(store, std::move(ini));
     ActualizaTools();
     Descarga();
 }

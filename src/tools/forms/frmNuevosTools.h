@@ -13,7 +13,8 @@ class QPushButton;
 
 namespace veldix {
 
-/// Adds an external tool to the settings where `NuevoTool` is set, else removes one.
+/// Adds an external tool to the settings where `NuevoTool` was set when the window was opened, else removes
+/// one.
 class frmNuevosTools : public Formulario {
     Q_OBJECT
 
@@ -37,6 +38,7 @@ private:
     void Anade();
     void Borra();
 
+    const bool nuevo_;  ///< adds; closing a record clears the flag while the window stands
     QLabel *Label1, *Label2, *Label3, *Label6;  ///< of the two fields and of the two lists
     QLineEdit *txtNombre, *txtPath;
     ListaFicheros* File1;

@@ -118,9 +118,15 @@ TEST_F(MenuPrincipal, OpeningAMenuEnablesWithoutRecordOrSaysTheWrongThing)
         }
     }
     store.DirDatos = "/otro";
+    AbreMenu("mnuanalisis");
+    EXPECT_EQ(store.DirDatos, "/otro") << "the folders of the file are passed over";
     Pulsa("mnuDir_defecto");
     EXPECT_EQ(store.DirDatos, c.Ruta("d")) << "the folders of the file are shown";
     EXPECT_TRUE(frmDirect::unica.Cargado());
+    frmDirect::unica.Descarga();
+    fs::remove(c.Ruta("VELDIX/ini/tools.ini"));
+    Pulsa("mnuDir_defecto", k53);
+    EXPECT_TRUE(frmDirect::unica.Cargado()) << "in spite of the error";
 }
 
 TEST_F(MenuPrincipal, ToolsShowAnOlderListOrStartInSpiteOfTheirTests)
@@ -161,7 +167,7 @@ TEST_F(MenuPrincipal, ToolsShowAnOlderListOrStartInSpiteOfTheirTests)
     Pulsa("mnuanal1", 172);
     store.PlantillaNoValida = true;
     Pulsa("mnuanal1", 246);
-    EXPECT_FALSE(fs::exists(Marca()));
+    EXPECT_FALSE(QTest::qWaitFor([this] { return fs::exists(Marca()); }, 300)) << "started all the same";
 }
 
 TEST_F(MenuPrincipal, LanguageSwitchForgetsAMenuASettingsFileOrASessionLine)

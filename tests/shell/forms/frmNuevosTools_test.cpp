@@ -1,3 +1,5 @@
+#include "tools/forms/frmNuevosTools.h"
+
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -6,7 +8,6 @@
 #include "platform/ficheros.h"
 #include "platform/forms/ListaCarpetas.h"
 #include "support/arbol.h"
-#include "tools/forms/frmNuevosTools.h"
 
 namespace veldix {
 namespace {
@@ -14,9 +15,9 @@ namespace {
 using prueba::ConFinales;
 
 /// The program started with some tools in its settings.
-class Herramientas : public prueba::Arbol {
+class HerramientasMenu : public prueba::Arbol {
 protected:
-    ~Herramientas() override { LimitaDisco(-1); }
+    ~HerramientasMenu() override { LimitaDisco(-1); }
 
     void Empieza(const std::vector<std::string>& herramientas)
     {
@@ -53,7 +54,7 @@ protected:
     }
 };
 
-TEST_F(Herramientas, AToolIsAddedAgainstAMessageOrTheSettingsLoseSomething)
+TEST_F(HerramientasMenu, AToolIsAddedAgainstAMessageOrByAnotherPath)
 {
     c.Escribe("d/calc.exe", "x");
     const std::string uno = c.Ruta("d/calc.exe");
@@ -64,10 +65,12 @@ TEST_F(Herramientas, AToolIsAddedAgainstAMessageOrTheSettingsLoseSomething)
     auto *nombre = Da<QLineEdit>("txtNombre"), *ruta = Da<QLineEdit>("txtPath");
     EXPECT_EQ(form->windowTitle() + Da<QLabel>("Label1")->text(), Q(Textos(53) + Textos(55)));
     EXPECT_EQ(ruta->text(), Q(c.Ruta("d")));
-    EXPECT_TRUE(Da<ListaFicheros>("File1")->isEnabled() && !Da<ListaClic>("List1")->isEnabled());
+    EXPECT_TRUE(Da<ListaFicheros>("File1")->isEnabled());
+    EXPECT_FALSE(Da<ListaClic>("List1")->isEnabled());
+    PonTools("1", {"Calc=/de/fuera.exe"});  // the file of the moment counts
     Acepta(Textos(232));
-    nombre->setText("Calc");
-    ruta->setText("/x/VELDIX.EXE");
+    nombre->setText("Calc\n");
+    ruta->setText("/x/VELD\nIX.EXE");
     Acepta(Textos(261));
     Da<ListaCarpetas>("Dir1")->Pon(c.Ruta());
     EXPECT_EQ(ruta->text(), Q(c.Ruta()));
@@ -76,50 +79,87 @@ TEST_F(Herramientas, AToolIsAddedAgainstAMessageOrTheSettingsLoseSomething)
     auto* ficheros = Da<ListaFicheros>("File1");
     ficheros->setCurrentItem(ficheros->findItems("calc.exe", Qt::MatchExactly).value(0));
     EXPECT_EQ(ruta->text(), Q(uno));
+    Acepta(Textos(234));
+    nombre->setText("A=B");
+    ruta->setText("/de/fuera.exe");
+    Acepta(Textos(235));
+    ruta->setText("\"/a b/x.exe\" -r y.EXE");
+    Accion("mnuCerrarComtrade")->trigger();  // what the window is for stays
+    QTest::keyClick(nombre, Qt::Key_Return);
+    EXPECT_FALSE(frmNuevosTools::unica.Cargado());
+    store.PlantillaAplicada = true;
+    EXPECT_EQ(Menu(), "(Calc)|(A)|");
+    store.RegistroAbierto = true;
+    EXPECT_EQ(Menu(), "Calc|A|");
+    PonTools("1", {"1=/1.exe", "2=/2.exe", "3=/3.exe"});
+    EXPECT_EQ(Menu(), "1|2|3|");
+}
 
+TEST_F(HerramientasMenu, SettingsLoseWhatTheyHeldOrKeepWhatTheProgramChanged)
+{
+    Empieza({"A=/a.exe"});
     const std::string antes = Ini("tools.ini");
+    const auto anade = [this](const char* nombre, const std::string& caja, Icono icono) {
+        Da<QLineEdit>("txtNombre")->setText(nombre);
+        Da<QLineEdit>("txtPath")->setText(Q(std::string("/") + nombre + ".exe"));
+        Acepta(caja, icono);
+    };
+    Abre("mnuAñadirTool");
     LimitaDisco(30);
+    anade("B", "Error 61: Disk full", Icono::Critico);
+    EXPECT_TRUE(frmNuevosTools::unica.Cargado());
+    Abre("mnuBorrartool");
+    Da<ListaClic>("List1")->setCurrentRow(0);
     Acepta("Error 61: Disk full", Icono::Critico);
     LimitaDisco(-1);
     EXPECT_EQ(Ini("tools.ini"), antes);
-    ASSERT_TRUE(frmNuevosTools::unica.Cargado());
-    store.DirAplic = "/otro";  // what the program holds is written, as it stands
-    Acepta();
-    EXPECT_FALSE(frmNuevosTools::unica.Cargado());
-    const std::string cabeza = "1|" + c.Ruta("d") + "|" + c.Ruta() + "|/otro|";
-    EXPECT_EQ(Ini("tools.ini"), ConFinales(cabeza + "1|\"Calc=" + uno + "\""));
-    EXPECT_EQ(Menu(), "(Calc)|");
+    EXPECT_EQ(Menu(), "(A)|");
 
+    // Folder and language are written as the program holds them.
+    store.DirAplic = "/otro";
+    store.Idioma = 0;
     cajas->Espera("Error 76: Path not found", Icono::Critico);
-    ASSERT_TRUE(Abre("mnuAñadirTool")) << "another folder can be chosen";
-    Da<QLineEdit>("txtNombre")->setText("Calc");
-    Da<QLineEdit>("txtPath")->setText(Q(uno));
-    Acepta(Textos(234));
-    Da<QLineEdit>("txtNombre")->setText("A=B");
-    Acepta(Textos(235));
-    Da<QLineEdit>("txtPath")->setText("\"/a b/x.exe\" -r y.EXE");
+    ASSERT_TRUE(Abre("mnuAñadirTool"));
+    EXPECT_FALSE(Da<QLineEdit>("txtPath")->text().isEmpty()) << "another folder can be chosen";
+    anade("B", {}, Icono::Ninguno);
+    const std::string cabeza = "0|" + c.Ruta("d") + "|" + c.Ruta() + "|/otro|";
+    EXPECT_EQ(Ini("tools.ini"), ConFinales(cabeza + "2|\"A=/a.exe\"|\"B=/B.exe\""));
+    ASSERT_TRUE(Abre("mnuBorrartool")) << "no folder is needed to remove";
+    Da<ListaClic>("List1")->setCurrentRow(0);
+    PonTools("1", {"B=/B.exe"});
+    const std::string fuera = Ini("tools.ini");
     Acepta();
-    store.RegistroAbierto = store.PlantillaAplicada = true;
-    EXPECT_EQ(Menu(), "Calc|A|");
-    EXPECT_EQ(Ini("tools.ini"),
-              ConFinales(cabeza + "2|\"Calc=" + uno + "\"|\"A=B=\"/a b/x.exe\" -r y.EXE\""));
+    EXPECT_EQ(Ini("tools.ini"), fuera) << "that tool has gone meanwhile";
+
+    c.Escribe("VELDIX/ini/tools.ini", ConFinales("1|a|b|c|2|\"A=/a.exe\""));
+    cajas->Espera("Error 62: Input past end of file", Icono::Critico);
+    EXPECT_FALSE(Abre("mnuBorrartool"));
+    store.DirAplic = c.Ruta();
+    Abre("mnuAñadirTool");
+    anade(" ", Textos(232), Icono::Exclamacion);
+    anade("C", "Error 62: Input past end of file", Icono::Critico);
 }
 
-TEST_F(Herramientas, AnotherToolIsRemovedOrItsEntryStays)
+TEST_F(HerramientasMenu, AnotherToolIsRemovedOrItsEntryStays)
 {
     Empieza({"A=/a.exe", "B=/b.exe", "A=/c.exe"});
+    Abre("mnuAñadirTool");
     frmNuevosTools* form = Abre("mnuBorrartool");
     ASSERT_TRUE(form);
     EXPECT_EQ(form->windowTitle(), Q(Textos(54)));
     auto* lista = Da<ListaClic>("List1");
-    EXPECT_TRUE(lista->isEnabled() && !Da<ListaFicheros>("File1")->isEnabled());
-    EXPECT_TRUE(Da<QLineEdit>("txtNombre")->isReadOnly() && Da<QLineEdit>("txtPath")->isReadOnly());
+    EXPECT_TRUE(lista->isEnabled());
+    for (const char* control : {"File1", "Dir1", "Drive1"})
+        EXPECT_FALSE(Da<QWidget>(control)->isEnabled()) << control;
+    for (const char* campo : {"txtNombre", "txtPath"})
+        EXPECT_TRUE(Da<QLineEdit>(campo)->isReadOnly()) << campo;
     const std::string antes = Ini("tools.ini");
     Acepta();
     EXPECT_TRUE(frmNuevosTools::unica.Cargado()) << "nothing is selected";
     lista->setCurrentRow(2);
-    EXPECT_EQ(Da<QLineEdit>("txtPath")->text(), "/c.exe");
-    QTest::mouseClick(Da<QPushButton>("cmdcancel"), Qt::LeftButton);
+    EXPECT_EQ(Da<QLineEdit>("txtNombre")->text() + Da<QLineEdit>("txtPath")->text(), "A/c.exe");
+    QTest::keyClick(lista, Qt::Key_Escape);
+    EXPECT_FALSE(frmNuevosTools::unica.Cargado());
     EXPECT_EQ(Ini("tools.ini"), antes);
 
     const std::pair<int, const char*> pasos[] = {{2, "(B)|(A)|"}, {1, "(B)|"}, {0, "off"}};
@@ -131,9 +171,6 @@ TEST_F(Herramientas, AnotherToolIsRemovedOrItsEntryStays)
         EXPECT_EQ(Menu(), menu);
     }
     EXPECT_EQ(Ini("tools.ini"), ConFinales("1|" + c.Ruta("d") + "|" + c.Ruta() + "|" + c.Ruta("d") + "|0"));
-    c.Escribe("VELDIX/ini/tools.ini", ConFinales("1|a|b|c|2|\"A=/a.exe\""));
-    cajas->Espera("Error 62: Input past end of file", Icono::Critico);
-    EXPECT_FALSE(Abre("mnuBorrartool"));
 }
 
 }  // namespace
