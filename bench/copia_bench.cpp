@@ -68,10 +68,14 @@ int main()
     const std::string plana = carpeta / "plana.DAT", sola = carpeta / "sola.DAT";
     CopiaPlana(s.FicheroDat, plana);
     const std::string texto = veldix::LeeOctetos(plana);
-    const auto t =
-        veldix::Mejores({[&] { CopiaPlana(s.FicheroDat, plana); }, [&] { veldix::EscribeAsciiDat(s); },
-                         [&] { veldix::ReemplazaFichero(sola, texto); }},
-                        15);
+    const auto t = veldix::Mejores({[&] { CopiaPlana(s.FicheroDat, plana); },
+                                    [&] {
+                                        veldix::FicherosNuevos copia;
+                                        veldix::EscribeAsciiDat(s, copia);
+                                        copia.Confirma();
+                                    },
+                                    [&] { veldix::ReemplazaFichero(sola, texto); }},
+                                   15);
     const bool iguales = texto == veldix::LeeOctetos(s.FicheroAscii + ".DAT");
     std::printf("EscribeAsciiDat / stream = %.2f, / writing its octets alone = %.2f   (%.1f ms, %.1f MiB)\n",
                 t[1] / t[0], t[1] / t[2], t[1], static_cast<double>(texto.size()) / 1048576.0);

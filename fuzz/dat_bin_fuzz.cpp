@@ -51,7 +51,9 @@ void CompruebaCopia(RecordStore& s, const CasoDat& caso)
 {
     RecordStore copia;
     s.FicheroAscii = UneRuta(CarpetaMemoria(), "copia");
-    EscribeAsciiDat(s);
+    FicherosNuevos ficheros;
+    EscribeAsciiDat(s, ficheros);
+    ficheros.Confirma();
     caso.Prepara(copia);
     copia.TimeMult = 0;
     copia.FicheroDat = s.FicheroAscii + ".DAT";

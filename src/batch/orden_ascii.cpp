@@ -8,7 +8,8 @@ namespace veldix {
 Salida OrdenAscii(const Argumentos& a, const Consola& consola)
 {
     const std::string& destino = a.sueltos[1];
-    if (NombreDe(destino).empty()) {
+    const std::string nombre = NombreDe(destino);
+    if (nombre.empty() || nombre == "." || nombre == "..") {
         Avisa(consola.espanol ? "El destino debe ser un nombre de fichero, sin extensión."
                               : "The destination must be a file name, without extension.");
         return Salida::MalUso;
@@ -17,6 +18,10 @@ Salida OrdenAscii(const Argumentos& a, const Consola& consola)
     if (store.FormatoDat != "BINARY") {
         Avisa(consola.espanol ? "El registro no está en formato BINARY."
                               : "The record is not in BINARY format.");
+        return Salida::Fallida;
+    }
+    if (store.Muestras.Vacia()) {  // an empty copy would replace what is there
+        Avisa(consola.espanol ? "El registro no tiene muestras." : "The record has no samples.");
         return Salida::Fallida;
     }
     store.FicheroAscii = destino;

@@ -23,7 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kTrozo = 256 * 1024;
 constexpr std::size_t kMayorTexto = 64 * 1024 * 1024;
 
 long long g_limiteDisco = -1;
@@ -90,7 +89,7 @@ void CierraEscrito(int fd)
     if (close(fd) != 0) Lanza(ErrorDeEscritura(errno));
 }
 
-/// The file behind links, so that a replaced settings file stays where its link points.
+/// The file behind links that lead to one, so that a replaced settings file stays where its link points.
 std::string SinEnlaces(const std::string& ruta)
 {
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(ruta.c_str(), nullptr), &std::free);
@@ -100,7 +99,10 @@ std::string SinEnlaces(const std::string& ruta)
 mode_t PermisosDe(const std::string& ruta)
 {
     struct stat s {};
-    return stat(ruta.c_str(), &s) == 0 ? (s.st_mode & 07777U) : 0644U;
+    if (stat(ruta.c_str(), &s) == 0) return s.st_mode & 07777U;
+    const mode_t mascara = umask(0);
+    umask(mascara);
+    return 0666U & ~mascara;
 }
 
 /// Less a lone 0x1A at the end.
@@ -253,10 +255,16 @@ void FicheroNuevo::Escribe(std::string_view octetos)
     EscribeTodo(fd_, octetos);
 }
 
-void FicheroNuevo::Confirma()
+void FicheroNuevo::Cierra()
 {
+    if (fd_ < 0) return;
     fchmod(fd_, permisos_);
     CierraEscrito(std::exchange(fd_, -1));
+}
+
+void FicheroNuevo::Confirma()
+{
+    Cierra();
     if (rename(temporal_.c_str(), real_.c_str()) != 0) Lanza(ErrorDeApertura(real_, errno));
     temporal_.clear();
 }
@@ -268,16 +276,27 @@ void ReemplazaFichero(const std::string& ruta, std::string_view octetos)
     nuevo.Confirma();
 }
 
-void CopiaFichero(const std::string& origen, const std::string& destino)
+FicheroNuevo& FicherosNuevos::Abre(const std::string& ruta)
+{
+    return ficheros_.emplace_back(ruta);
+}
+
+void FicherosNuevos::Confirma()
+{
+    for (FicheroNuevo& f : ficheros_)
+        f.Cierra();
+    for (FicheroNuevo& f : ficheros_)
+        f.Confirma();
+}
+
+void Copia(const std::string& origen, FicheroNuevo& destino)
 {
     LectorTrozos lector(origen);
-    FicheroNuevo nuevo(destino);
     std::vector<char> trozo(kTrozo);
     for (std::size_t n = kTrozo; n == kTrozo;) {
         n = lector.Lee(trozo);
-        nuevo.Escribe({trozo.data(), n});
+        destino.Escribe({trozo.data(), n});
     }
-    nuevo.Confirma();
 }
 
 void EscribeFichero(const std::string& ruta, std::string_view octetos)

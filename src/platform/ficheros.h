@@ -1,12 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace veldix {
+
+/// Octets that files are read and written in.
+inline constexpr std::size_t kTrozo = 256 * 1024;
 
 bool ExisteFichero(const std::string& ruta);
 bool ExisteCarpeta(const std::string& ruta);
@@ -42,7 +46,7 @@ private:
 };
 
 /// A file the user owns written anew in pieces, through a temporary file of its folder: the old one stands,
-/// also on a full disk or after a kill, until Confirma renames the new one over it. Links are followed.
+/// also on a full disk or after a kill, until Confirma renames the new one over it. A link to a file stays.
 class FicheroNuevo {
 public:
     /// Raises 52, 61, 70, 75, 76.
@@ -52,8 +56,10 @@ public:
     FicheroNuevo(const FicheroNuevo&) = delete;
     FicheroNuevo& operator=(const FicheroNuevo&) = delete;
 
-    /// Both raise 57, 61, 70, 75.
+    /// All three raise 57, 61, 70, 75.
     void Escribe(std::string_view octetos);
+    /// The last step that may need room on the disk; Confirma does it too.
+    void Cierra();
     void Confirma();
 
 private:
@@ -62,10 +68,21 @@ private:
     int fd_ = -1;
 };
 
+/// Files that belong together: none is replaced before all are written.
+class FicherosNuevos {
+public:
+    /// The next one, to be written. Raises as FicheroNuevo.
+    FicheroNuevo& Abre(const std::string& ruta);
+    void Confirma();
+
+private:
+    std::deque<FicheroNuevo> ficheros_;
+};
+
 /// Replaces a file as a whole, as FicheroNuevo does. Raises 52, 57, 61, 70, 75, 76.
 void ReemplazaFichero(const std::string& ruta, std::string_view octetos);
-/// The same with the octets of another file. Raises what reading and writing raise.
-void CopiaFichero(const std::string& origen, const std::string& destino);
+/// Writes the octets of another file. Raises what reading and writing raise.
+void Copia(const std::string& origen, FicheroNuevo& destino);
 
 /// Writes a file in place, replacing what is there; a failure leaves it half written. Raises as above.
 void EscribeFichero(const std::string& ruta, std::string_view octetos);

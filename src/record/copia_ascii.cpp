@@ -20,12 +20,33 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kTrozo = 256 * 1024;
-
-/// A file of the copy; one that is there keeps its spelling.
-std::string RutaCopia(const RecordStore& s, const char* extension)
+/// A file of this very stem whose extension, with its point, may be in another case; else the name as given.
+std::string ConExtension(const std::string& tronco, std::string_view extension)
 {
-    return BuscaSinCaja(s.FicheroAscii + extension);
+    const std::string nombre = NombreDe(tronco), carpeta = CarpetaDe(tronco);
+    std::string hallado = nombre + std::string(extension);
+    std::error_code fallo;
+    if (ExisteFichero(UneRuta(carpeta, hallado))) return UneRuta(carpeta, hallado);
+    for (fs::directory_iterator it(carpeta.empty() ? "." : carpeta, fallo), fin; !fallo && it != fin;
+         it.increment(fallo)) {
+        const std::string este = it->path().filename();
+        if (este.starts_with(nombre) && IgualSinCaja(este, hallado)) hallado = este;
+    }
+    return UneRuta(carpeta, hallado);
+}
+
+/// The path of the copy without extension: that of a record which is there keeps its spelling, so that the
+/// three files stay together.
+std::string TroncoCopia(const RecordStore& s)
+{
+    const std::string hallado = BuscaSinCaja(s.FicheroAscii + ".DAT");
+    const bool otro = !ExisteFichero(ConExtension(s.FicheroAscii, ".DAT")) && ExisteFichero(hallado);
+    return otro ? std::string(SinFinal(hallado, 4)) : s.FicheroAscii;
+}
+
+std::string RutaCopia(const RecordStore& s, std::string_view extension)
+{
+    return ConExtension(TroncoCopia(s), extension);
 }
 
 /// A file beside the `.dat`, as the copy looks for it.
@@ -34,20 +55,33 @@ std::string RutaOrigen(const RecordStore& s, const char* extension)
     return BuscaSinCaja(std::string(SinFinal(s.FicheroDat, 3)) + extension);
 }
 
+/// The system tells a missing file and a missing folder alike; of the record, either is the file.
+const std::string& ExigeOrigen(const std::string& ruta)
+{
+    if (!ExisteFichero(ruta)) Lanza(error::kFicheroNoEncontrado);
+    return ruta;
+}
+
 bool MismoFichero(const std::string& a, const std::string& b)
 {
     std::error_code fallo;
     return !a.empty() && !b.empty() && fs::equivalent(a, b, fallo) && !fallo;
 }
 
-/// The copy would be written over the record: under its own name, case apart, or through a link to it.
-bool EsPropio(const RecordStore& s)
+/// The copy has the record's own name, case apart, though no file of it need be the record's.
+bool TieneSuNombre(const RecordStore& s)
 {
-    const std::string tronco(SinFinal(s.FicheroDat, 4));  // with its point
+    std::string tronco(SinFinal(s.FicheroDat, 3));
+    if (tronco.ends_with('.')) tronco.pop_back();
     const std::string carpeta = CarpetaDe(tronco), destino = CarpetaDe(s.FicheroAscii);
-    if (IgualSinCaja(NombreDe(tronco), NombreDe(s.FicheroAscii)) &&
-        MismoFichero(carpeta.empty() ? "." : carpeta, destino.empty() ? "." : destino))
-        return true;
+    return IgualSinCaja(NombreDe(tronco), NombreDe(s.FicheroAscii)) &&
+           MismoFichero(carpeta.empty() ? "." : carpeta, destino.empty() ? "." : destino);
+}
+
+/// A file of the copy is one of the record's, through a link or since the dialog opens "r.v2.dat" with
+/// "r.cfg".
+bool PisaSusFicheros(const RecordStore& s)
+{
     const std::array propios{s.FicheroDat, s.FicheroCfg, s.FicheroHdr, RutaOrigen(s, "cfg"),
                              RutaOrigen(s, "hdr")};
     return std::ranges::any_of(std::array{".DAT", ".cfg", ".hdr"}, [&](const char* extension) {
@@ -60,7 +94,6 @@ template <class T>
 void Vacia(Tabla2<T>& tabla)
 {
     const int filas = tabla.Filas(), columnas = tabla.Columnas();
-    if (tabla.Vacia()) return;
     tabla = {};
     Intenta([&] { tabla = Tabla2<T>(filas, columnas); });
 }
@@ -135,7 +168,7 @@ void EscribeLineas(const RecordStore& s, FicheroNuevo& copia)
     const int muestras = s.Muestras.Filas(), analogicos = s.Muestras.Columnas();
     const int digitales = std::max<int>(s.NumDigital, 0);
     const Gasolino2 gasolino(muestras);
-    LectorMuestras fichero(s.FicheroDat, analogicos, digitales);
+    LectorMuestras fichero(ExigeOrigen(s.FicheroDat), analogicos, digitales);
     LineaAscii linea(analogicos, digitales);
     std::string trozo;
     for (int i = 1; i <= muestras; ++i) {
@@ -177,12 +210,15 @@ bool ExisteCopia(const RecordStore& s)
 
 void ConvierteAscii(RecordStore& s)
 {
-    if (EsPropio(s)) Lanza(error::kFicheroAbierto);
-    EscribeAsciiDat(s);
-    CopiaCabecera(s);
+    if (TieneSuNombre(s) || PisaSusFicheros(s)) Lanza(error::kFicheroAbierto);
+    FicherosNuevos copia;
+    EscribeAsciiDat(s, copia);
+    const int fallo = CopiaCabecera(s, copia);
+    copia.Confirma();
+    if (fallo != 0) Lanza(fallo);
 }
 
-void EscribeAsciiDat(RecordStore& s)
+void EscribeAsciiDat(RecordStore& s, FicherosNuevos& copia)
 {
     if (s.ConvierteYSale) {
         Vacia(s.Muestras);
@@ -190,19 +226,17 @@ void EscribeAsciiDat(RecordStore& s)
         Vacia(s.MuestrasSec);
         Vacia(s.MuestrasDig);
     }
-    FicheroNuevo copia(RutaCopia(s, ".DAT"));
-    EscribeLineas(s, copia);
-    copia.Confirma();
+    EscribeLineas(s, copia.Abre(RutaCopia(s, ".DAT")));
 }
 
-void CopiaCabecera(const RecordStore& s)
+int CopiaCabecera(const RecordStore& s, FicherosNuevos& copia)
 {
     const std::string hdr = RutaOrigen(s, "hdr");
-    if (ExisteFichero(hdr)) CopiaFichero(hdr, RutaCopia(s, ".hdr"));
-    std::string cfg = Une(Lineas(LeeOctetos(RutaOrigen(s, "cfg"))));
+    if (ExisteFichero(hdr)) Copia(hdr, copia.Abre(RutaCopia(s, ".hdr")));
+    std::string cfg = Une(Lineas(LeeOctetos(ExigeOrigen(RutaOrigen(s, "cfg")))));
     const int fallo = ReescribeFinal(cfg, s);
-    ReemplazaFichero(RutaCopia(s, ".cfg"), cfg);
-    if (fallo != 0) Lanza(fallo);
+    copia.Abre(RutaCopia(s, ".cfg")).Escribe(cfg);
+    return fallo;
 }
 
 }  // namespace veldix

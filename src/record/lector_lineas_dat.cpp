@@ -7,7 +7,6 @@ namespace veldix {
 
 namespace {
 
-constexpr std::size_t kTrozo = 256 * 1024;
 constexpr std::size_t kMayorLinea = 8 * 1024 * 1024;
 
 /// First CR or LF of [de, hasta), or `hasta`. Nearly every line ends with LF, with at most a CR before it,

@@ -6,8 +6,6 @@ namespace veldix {
 
 namespace {
 
-constexpr std::size_t kTrozo = 256 * 1024;
-
 std::size_t LargoMuestra(int analogicos, int digitales)
 {
     const int palabras = (std::max(digitales, 0) + 15) / 16;

@@ -202,8 +202,12 @@ TEST_F(Cli, AsciiCopyIsNotTheRecordOrIsMadeOverIt)
     EXPECT_EQ(Corre("samples d/otro.dat --reference secondary"), antes);
     EXPECT_EQ(Corre("ascii d/bin.dat d/BIN"), "1veldix-cli: Error 55: File already open\n");
     EXPECT_EQ(Corre("--lang en ascii d/rec.dat d/x"), "1veldix-cli: The record is not in BINARY format.\n");
-    for (const char* linea : {"ascii d/bin.dat d/", "ascii d/bin.dat", "ascii d/bin.dat d/x --sample 1"})
-        EXPECT_EQ(Corre(linea).front(), '2') << linea;
+    c.Escribe("d/sin.cfg", ConFinales("SE,R|1,0A,1D|1,T,0|50|1|1000,2|f|f|BINARY"));
+    c.Escribe("d/sin.dat", "\1");
+    EXPECT_EQ(Corre("--lang en ascii d/sin.dat d/otro"), "1veldix-cli: The record has no samples.\n");
+    for (const char* linea :
+         {"ascii d/bin.dat d/..", "ascii d/bin.dat d/", "ascii d/bin.dat", "ascii d/bin.dat d/x --sample 1"})
+        EXPECT_EQ(Corre(linea).substr(0, 1), "2") << linea;
 }
 
 /// The pages of a report as its titles tell them, and whether it was ended.

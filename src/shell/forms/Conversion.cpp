@@ -97,23 +97,21 @@ void Conversion::Aceptar_Click()
     Convierte();
 }
 
+/// However it ends, the choice is over.
 void Conversion::Convierte()
 {
-    try {
+    Atrapa(nullptr, [this] {
         const PunteroEspera espera(*this);
-        ConvierteAscii(store);
+        try {
+            ConvierteAscii(store);
+        } catch (const ErrorEjecucion& e) {
+            if (e.numero != error::kRutaNoEncontrada) throw;
+            PunteroNormal();
+            Pregunta(Textos(168), Icono::Ninguno);  // either button will do
+            return;
+        }
         if (!store.ConvierteYSale) frmPlantilla::unica.Muestra();
-    } catch (const ErrorEjecucion& e) {
-        if (e.numero != error::kRutaNoEncontrada) throw;
-        PunteroNormal();
-        Pregunta(Textos(168), Icono::Ninguno);  // either button ends it
-    }
-    Descarga();
-    poscamb::unica.Descarga();
-}
-
-void Conversion::TrasError()
-{
+    });
     Descarga();
     poscamb::unica.Descarga();
 }

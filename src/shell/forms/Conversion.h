@@ -17,9 +17,6 @@ public:
     Conversion();
     static Portador<Conversion> unica;
 
-    /// A conversion that failed ends the choice.
-    void TrasError() override;
-
 protected:
     /// The help note goes with the form that it is about.
     void Form_Unload() override;

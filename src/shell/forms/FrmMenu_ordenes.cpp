@@ -12,7 +12,6 @@
 #include "shell/ajustes.h"
 #include "shell/forms/Conversion.h"
 #include "shell/forms/FrmMenu.h"
-#include "shell/forms/Mensaje.h"
 #include "shell/forms/frmAbrirComtrade.h"
 #include "shell/forms/frmDirect.h"
 #include "shell/forms/poscamb.h"
@@ -51,7 +50,6 @@ void FrmMenu::OlvidaRegistro()
 {
     DescargaSelectores();
     AbandonaPaginas();
-    Mensaje::unica.Descarga();
     Conversion::unica.Descarga();
     poscamb::unica.Descarga();
 }

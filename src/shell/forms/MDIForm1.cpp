@@ -141,7 +141,9 @@ void MDIForm1::LlenaGanchos()
         if (gasolino* g = gasolino::unica.Cargado()) g->LlenarGasolino(relativo, valor);
     };
     ganchosRegistro.MuestraGasolino2 = [](int maximo) {
-        gasolino2::unica.CargaNueva(Conversion::unica.Cargado()).ProgressBar1->setRange(0, maximo);
+        QProgressBar& barra = *gasolino2::unica.CargaNueva(Conversion::unica.Cargado()).ProgressBar1;
+        barra.setRange(0, qMax(1, maximo));  // without a range it would never stand still
+        barra.setValue(0);
     };
     ganchosRegistro.PonGasolino2 = [](int valor) {
         if (gasolino2* g = gasolino2::unica.Cargado()) g->ProgressBar1->setValue(valor);

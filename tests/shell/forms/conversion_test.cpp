@@ -1,5 +1,6 @@
 #include "shell/forms/Conversion.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -8,7 +9,9 @@
 #include "platform/ficheros.h"
 #include "platform/forms/ListaCarpetas.h"
 #include "platform/forms/dialogo_fichero.h"
+#include "record/avance.h"
 #include "shell/forms/Mensaje.h"
+#include "shell/forms/gasolino2.h"
 #include "shell/forms/poscamb.h"
 #include "support/arbol.h"
 #include "templates/forms/frmPlantilla.h"
@@ -75,7 +78,7 @@ TEST_F(Convierte, TheChoiceLeadsElsewhereOrOutlivesItsRecord)
         Pulsa(boton, poscamb::unica.Cargado());
         EXPECT_EQ(EnPie(), enPie) << boton;
         EXPECT_EQ(store.ConvierteYSale, std::string(enPie) == "c" ? sale : !sale) << boton;
-        EXPECT_TRUE(store.RegistroAbierto && !store.PlantillaAplicada);
+        EXPECT_TRUE(store.RegistroAbierto);
     }
     Empieza("Convertir_continuar", "x");
     Pulsa("Ayuda", Conversion::unica.Cargado());
@@ -85,9 +88,21 @@ TEST_F(Convierte, TheChoiceLeadsElsewhereOrOutlivesItsRecord)
     Pulsa("Ayuda", Conversion::unica.Cargado());
     Abre("d/rec.dat");
     EXPECT_EQ(EnPie(), "t") << "an ASCII record";
+    for (const bool elegido : {false, true}) {
+        Abre();
+        if (elegido) Pulsa("Convertir_salir", poscamb::unica.Cargado());
+        Accion("mnuCerrarComtrade")->trigger();
+        EXPECT_EQ(EnPie(), "");
+    }
     Empieza("Convertir_continuar", "x");
-    Accion("mnuCerrarComtrade")->trigger();
+    Pulsa("Ayuda", Conversion::unica.Cargado());
+    Pulsa("Cancelar", Conversion::unica.Cargado());
     EXPECT_EQ(EnPie(), "");
+    Abre();
+    QTest::keyClick(poscamb::unica.Cargado(), Qt::Key_Escape);
+    EXPECT_EQ(EnPie(), "");
+    EXPECT_TRUE(store.RegistroAbierto);
+    EXPECT_FALSE(fs::exists(c.Ruta("d/x.DAT")));
 }
 
 TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
@@ -106,12 +121,23 @@ TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
     Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado())->Pon(c.Ruta("d/sub"));
     EXPECT_EQ(Camin(), c.Ruta("d/sub"));
     Senda()->setText("copia");
+    std::string barra;
+    ganchosRegistro.PonGasolino2 = [&, pon = ganchosRegistro.PonGasolino2](int valor) {
+        EXPECT_EQ(Camin(), c.Ruta("d/sub/copia"));
+        EXPECT_EQ(Conversion::unica.Cargado()->cursor().shape(), Qt::WaitCursor);
+        pon(valor);
+        const auto* b = gasolino2::unica.Cargado()->ProgressBar1;
+        barra += std::to_string(b->value()) + "/" + std::to_string(b->maximum()) + " ";
+    };
     Acepta();
     EXPECT_EQ(EnPie(), "t");
+    EXPECT_EQ(barra, "1/2 2/2 2/2 ");
+    EXPECT_FALSE(gasolino2::unica.Cargado());
     EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/sub/copia.DAT")), " 1,0,7,8,1\r\n 2,1000,9,10,0\r\n");
     EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/sub/copia.cfg")).ends_with("fecha\r\nASCII\r\n\r\n"));
     EXPECT_EQ(store.Muestras(2, 2), 10.0F);
 
+    ganchosRegistro.PonGasolino2 = nullptr;
     Empieza("Convertir_salir", "vieja");
     cajas->Espera(Textos(167), Icono::Pregunta, Botones::AceptarCancelar);
     Acepta();
@@ -138,7 +164,18 @@ TEST_F(Convierte, AFailureIsSilentOrLeavesAWindow)
     Abre("otra/bin.dat");
     fs::remove_all(c.Ruta("otra"));
     Pulsa("Convertir_salir", poscamb::unica.Cargado());
-    EXPECT_EQ(EnPie(), "c") << "the record's folder has gone";
+    EXPECT_EQ(Camin(), U(QDir::currentPath())) << "the record's folder has gone";
+    Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado())->Pon(c.Ruta());
+    fs::remove_all(c.Ruta("d"));
+    cajas->Espera("Error 76: Path not found", Icono::Critico);
+    auto* carpetas = Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado());
+    carpetas->setCurrentItem(carpetas->findItems("d", Qt::MatchExactly | Qt::MatchRecursive).value(0));
+    QTest::keyClick(carpetas, Qt::Key_Return);
+    EXPECT_EQ(EnPie(), "c") << "another folder can be chosen";
+    Senda()->setText("x");
+    cajas->Espera("Error 53: File not found", Icono::Critico);
+    Acepta();
+    EXPECT_EQ(EnPie(), "");
 }
 
 }  // namespace
