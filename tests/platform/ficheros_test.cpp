@@ -1,5 +1,7 @@
 #include "platform/ficheros.h"
 
+#include <sys/stat.h>
+
 #include <climits>
 #include <cstdlib>
 #include <filesystem>
@@ -71,6 +73,10 @@ TEST(ReemplazaFichero, AFullDiskLeavesTheOldFileAndNothingElse)
     }
     EXPECT_EQ(fs::status(ruta).permissions(), fs::perms(0664));
     EXPECT_TRUE(fs::is_symlink(c.Ruta("enlace")));
+    const mode_t antes = umask(0027);
+    ReemplazaFichero(c.Ruta("otro"), "x");
+    umask(antes);
+    EXPECT_EQ(fs::status(c.Ruta("otro")).permissions(), fs::perms(0640)) << "the user's mask";
 }
 
 TEST(CarpetaPrograma, KeepsLinksAmongFoldersHoweverItWasStarted)

@@ -230,6 +230,7 @@ TEST_F(CopiaAscii, FilesOfTwoRecordsAreMixed)
         {{"X.dat", "X.cfg", "x.dat", "x.cfg"}, "x", "x.dat", "x.cfg"},
         {{"x.DAT", "X.dat", "X.cfg"}, "x", "x.DAT", "x.cfg"},
         {{"x.cfg", "X.Dat"}, "x", "X.Dat", "X.cfg"},
+        {{"x.DAT", "x.dAt", "x.daT"}, "x", "x.DAT", "x.cfg"},
     };
     Abre();
     for (const auto& k : casos) {

@@ -125,13 +125,14 @@ TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
     ganchosRegistro.PonGasolino2 = [&, pon = ganchosRegistro.PonGasolino2](int valor) {
         EXPECT_EQ(Camin(), c.Ruta("d/sub/copia"));
         EXPECT_EQ(Conversion::unica.Cargado()->cursor().shape(), Qt::WaitCursor);
-        pon(valor);
         const auto* b = gasolino2::unica.Cargado()->ProgressBar1;
+        barra += std::to_string(b->value()) + "->";
+        pon(valor);
         barra += std::to_string(b->value()) + "/" + std::to_string(b->maximum()) + " ";
     };
     Acepta();
     EXPECT_EQ(EnPie(), "t");
-    EXPECT_EQ(barra, "1/2 2/2 2/2 ");
+    EXPECT_EQ(barra, "0->1/2 1->2/2 2->2/2 ");
     EXPECT_FALSE(gasolino2::unica.Cargado());
     EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/sub/copia.DAT")), " 1,0,7,8,1\r\n 2,1000,9,10,0\r\n");
     EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/sub/copia.cfg")).ends_with("fecha\r\nASCII\r\n\r\n"));
