@@ -1,19 +1,11 @@
 #include "batch/ordenes.h"
 #include "platform/avisos.h"
-#include "platform/ficheros.h"
 #include "record/copia_ascii.h"
 
 namespace veldix {
 
 Salida OrdenAscii(const Argumentos& a, const Consola& consola)
 {
-    const std::string& destino = a.sueltos[1];
-    const std::string nombre = NombreDe(destino);
-    if (nombre.empty() || nombre == "." || nombre == "..") {
-        Avisa(consola.espanol ? "El destino debe ser un nombre de fichero, sin extensión."
-                              : "The destination must be a file name, without extension.");
-        return Salida::MalUso;
-    }
     if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
     if (store.FormatoDat != "BINARY") {
         Avisa(consola.espanol ? "El registro no está en formato BINARY."
@@ -24,7 +16,7 @@ Salida OrdenAscii(const Argumentos& a, const Consola& consola)
         Avisa(consola.espanol ? "El registro no tiene muestras." : "The record has no samples.");
         return Salida::Fallida;
     }
-    store.FicheroAscii = destino;
+    store.FicheroAscii = a.sueltos[1];
     ConvierteAscii(store);
     return Salida::Hecha;
 }

@@ -105,6 +105,18 @@ mode_t PermisosDe(const std::string& ruta)
     return 0666U & ~mascara;
 }
 
+/// A file of another user in a folder where only owners may rename: found out before anything is written.
+bool AjenoEnPegajosa(const std::string& ruta)
+{
+    struct stat fichero {
+    }, carpeta{};
+    const std::string suya = CarpetaDe(ruta);
+    if (stat(ruta.c_str(), &fichero) != 0 || stat(suya.empty() ? "." : suya.c_str(), &carpeta) != 0)
+        return false;
+    const uid_t yo = geteuid();
+    return (carpeta.st_mode & S_ISVTX) != 0 && yo != 0 && yo != fichero.st_uid && yo != carpeta.st_uid;
+}
+
 /// Less a lone 0x1A at the end.
 std::string_view SinFinDeFichero(std::string_view texto)
 {
@@ -239,7 +251,8 @@ FicheroNuevo::FicheroNuevo(const std::string& ruta)
     real_ = SinEnlaces(ruta);
     permisos_ = PermisosDe(real_);
     if (access(real_.c_str(), F_OK) == 0 && access(real_.c_str(), W_OK) != 0) Lanza(error::kPermiso);
-    temporal_ = real_ + ".XXXXXX";
+    if (AjenoEnPegajosa(real_)) Lanza(error::kPermiso);
+    temporal_ = UneRuta(CarpetaDe(real_), ".veldix-XXXXXX");  // short, so that the longest name will do
     fd_ = mkostemp(temporal_.data(), O_CLOEXEC);
     if (fd_ < 0) Lanza(ErrorDeApertura(real_, errno));
 }

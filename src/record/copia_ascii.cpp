@@ -210,6 +210,8 @@ bool ExisteCopia(const RecordStore& s)
 
 void ConvierteAscii(RecordStore& s)
 {
+    const std::string nombre = NombreDe(s.FicheroAscii);
+    if (nombre.empty() || nombre == "." || nombre == "..") Lanza(error::kNombreFichero);
     if (TieneSuNombre(s) || PisaSusFicheros(s)) Lanza(error::kFicheroAbierto);
     FicherosNuevos copia;
     EscribeAsciiDat(s, copia);

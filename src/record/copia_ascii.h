@@ -9,8 +9,9 @@ namespace veldix {
 bool ExisteCopia(const RecordStore& s);
 
 /// Writes the record, opened in BINARY form, as an ASCII one of the path `FicheroAscii`; of a record that is
-/// there the three files are replaced, under its spelling, when all are written. Raises 55, with nothing
-/// touched, where the copy has the record's name or one of its files; else as its two steps.
+/// there the three files are replaced, under its spelling, when all are written. Raises 52 for
+/// a path without a name and 55, with nothing touched, where the copy has the record's name or one of its
+/// files; else as its two steps.
 void ConvierteAscii(RecordStore& s);
 
 /// Writes `FicheroAscii` & ".DAT" from `FicheroDat`: a line a sample with the raw integers, as many as

@@ -205,8 +205,9 @@ TEST_F(Cli, AsciiCopyIsNotTheRecordOrIsMadeOverIt)
     c.Escribe("d/sin.cfg", ConFinales("SE,R|1,0A,1D|1,T,0|50|1|1000,2|f|f|BINARY"));
     c.Escribe("d/sin.dat", "\1");
     EXPECT_EQ(Corre("--lang en ascii d/sin.dat d/otro"), "1veldix-cli: The record has no samples.\n");
-    for (const char* linea :
-         {"ascii d/bin.dat d/..", "ascii d/bin.dat d/", "ascii d/bin.dat", "ascii d/bin.dat d/x --sample 1"})
+    for (const char* linea : {"ascii d/bin.dat d/..", "ascii d/bin.dat d/"})
+        EXPECT_EQ(Corre(linea), "1veldix-cli: Error 52: Bad file name or number\n") << linea;
+    for (const char* linea : {"ascii d/bin.dat", "ascii d/bin.dat d/x --sample 1"})
         EXPECT_EQ(Corre(linea).substr(0, 1), "2") << linea;
 }
 

@@ -215,6 +215,18 @@ TEST_F(CopiaAscii, FailureTouchesAFileOfTheUserOrHasAnotherNumber)
         EXPECT_EQ(s.MuestrasPrim(1, 2), k.error == 55 ? 149.0F : 0.0F);
     }
     EXPECT_EQ(Valores(s), "1000 0 0 0 0 0;3000 0 0 0 0 0;0 0 0 0 0 0;");
+
+    // Where only owners may rename, a file of another's keeps its companions too.
+    fs::create_directory(c.Ruta("de_todos"));
+    fs::permissions(c.Escribe("de_todos/x.cfg", "suyo"), fs::perms(0666));
+    fs::permissions(c.Ruta("de_todos"), fs::perms(01777));
+    s.FicheroAscii = c.Ruta("de_todos/x");
+    const bool ajeno = geteuid() == 0;
+    {
+        const prueba::SinPrivilegios nadie;
+        EXPECT_EQ(NumeroDeError([&] { ConvierteAscii(s); }), ajeno ? 70 : 0);
+    }
+    EXPECT_EQ(ExisteFichero(c.Ruta("de_todos/x.DAT")), !ajeno);
 }
 
 /// Names that are there, one that is typed, and the one whose files the copy becomes.

@@ -125,6 +125,7 @@ void FrmMenu::AjustaHerramientas(int cuenta)
     for (int i = static_cast<int>(mnuanal.size()) + 1; i <= cuenta; ++i) {
         QAction* a = mnuanalisis->addAction(QString());
         a->setObjectName(QString("mnuanal%1").arg(i));
+        a->setEnabled(false);
         Conecta(a, &QAction::triggered, this, [i](FrmMenu* menu) { menu->mnuanal_Click(i); });
         mnuanal.push_back(a);
     }

@@ -250,6 +250,8 @@ void FrmMenu::mnuInform_Click()
 void FrmMenu::mnuanalisis_Click()
 {
     constexpr int kBlancos = 22;
+    for (QAction* a : mnuanal)
+        a->setEnabled(false);  // also where the settings cannot be read
     const std::vector<std::string> lineas = LeeToolsIni(store).herramientas;
     if (lineas.size() > mnuanal.size()) AjustaHerramientas(static_cast<int>(lineas.size()));
     ComandosTool = Tabla1<std::string>(static_cast<int>(lineas.size()) + 1);

@@ -31,6 +31,9 @@ void poscamb::CreaControles()
     Label1 = CreaEtiqueta(this, "Label1");
     Label1->setText(Q(Textos(154)));
     Label1->setWordWrap(true);
+    const QFontMetrics letra = fontMetrics();  // on one line, unless a translation is much longer
+    Label1->setMinimumWidth(
+        qMin(letra.horizontalAdvance(Label1->text()) + 4, letra.averageCharWidth() * 120));
     continuar = CreaBoton(this, "continuar", 151, "Continuar");
     Convertir_continuar = CreaBoton(this, "Convertir_continuar", 152, "Convertir y seguir");
     Convertir_salir = CreaBoton(this, "Convertir_salir", 153, "Convertir y salir");

@@ -79,23 +79,29 @@ void frmNuevosTools::Dispone()
     todo->setRowStretch(2, 1);
 }
 
-/// A default folder that has gone leaves the lists where the program stands, so that another can be chosen.
+/// A default folder that has gone leaves the lists where the program stands, so that another can be chosen. A
+/// folder is shown as the path only when the user goes to it: it may end like a program.
 void frmNuevosTools::ModoNuevo()
 {
     setWindowTitle(Q(Rotulo(53, "Añadir herramienta de análisis")));
     Label6->setEnabled(false);
     List1->setEnabled(false);
+    const bool esta = Intenta([this] { carpetas_->Pon(store.DirAplic); });
+    File1->Pon(carpetas_->Carpeta(), "*");
     Conecta(carpetas_->Dir1, &ListaCarpetas::Cambio, this, &frmNuevosTools::Dir1_Change);
-    Dir1_Change();  // moving to the folder where the lists stand already would report nothing
-    carpetas_->Pon(store.DirAplic);
+    if (!esta) Lanza(error::kRutaNoEncontrada);
 }
 
 void frmNuevosTools::ModoBorrar()
 {
     setWindowTitle(Q(Rotulo(54, "Eliminar herramienta de análisis")));
     Intenta([this] { carpetas_->Pon(store.DirAplic); });
-    txtNombre->setReadOnly(true);
-    txtPath->setReadOnly(true);
+    for (QLineEdit* campo : {txtNombre, txtPath}) {
+        QPalette p = campo->palette();
+        p.setBrush(QPalette::Base, p.window());
+        campo->setPalette(p);
+        campo->setReadOnly(true);
+    }
     carpetas_->setEnabled(false);
     Label3->setEnabled(false);
     File1->setEnabled(false);

@@ -64,7 +64,8 @@ TEST_F(HerramientasMenu, AToolIsAddedAgainstAMessageOrByAnotherPath)
     ASSERT_TRUE(form);
     auto *nombre = Da<QLineEdit>("txtNombre"), *ruta = Da<QLineEdit>("txtPath");
     EXPECT_EQ(form->windowTitle() + Da<QLabel>("Label1")->text(), Q(Textos(53) + Textos(55)));
-    EXPECT_EQ(ruta->text(), Q(c.Ruta("d")));
+    EXPECT_EQ(ruta->text(), "") << "a folder may end like a program";
+    EXPECT_EQ(Da<ListaFicheros>("File1")->findItems("calc.exe", Qt::MatchExactly).size(), 1);
     EXPECT_TRUE(Da<ListaFicheros>("File1")->isEnabled());
     EXPECT_FALSE(Da<ListaClic>("List1")->isEnabled());
     PonTools("1", {"Calc=/de/fuera.exe"});  // the file of the moment counts
@@ -120,7 +121,8 @@ TEST_F(HerramientasMenu, SettingsLoseWhatTheyHeldOrKeepWhatTheProgramChanged)
     store.Idioma = 0;
     cajas->Espera("Error 76: Path not found", Icono::Critico);
     ASSERT_TRUE(Abre("mnuAñadirTool"));
-    EXPECT_FALSE(Da<QLineEdit>("txtPath")->text().isEmpty()) << "another folder can be chosen";
+    Da<ListaCarpetas>("Dir1")->Pon(c.Ruta("d"));
+    EXPECT_EQ(Da<QLineEdit>("txtPath")->text(), Q(c.Ruta("d"))) << "another folder can be chosen";
     anade("B", {}, Icono::Ninguno);
     const std::string cabeza = "0|" + c.Ruta("d") + "|" + c.Ruta() + "|/otro|";
     EXPECT_EQ(Ini("tools.ini"), ConFinales(cabeza + "2|\"A=/a.exe\"|\"B=/B.exe\""));
@@ -131,9 +133,13 @@ TEST_F(HerramientasMenu, SettingsLoseWhatTheyHeldOrKeepWhatTheProgramChanged)
     Acepta();
     EXPECT_EQ(Ini("tools.ini"), fuera) << "that tool has gone meanwhile";
 
+    store.RegistroAbierto = store.PlantillaAplicada = true;
+    EXPECT_EQ(Menu(), "B|");
     c.Escribe("VELDIX/ini/tools.ini", ConFinales("1|a|b|c|2|\"A=/a.exe\""));
     cajas->Espera("Error 62: Input past end of file", Icono::Critico);
     EXPECT_FALSE(Abre("mnuBorrartool"));
+    cajas->Espera("Error 62: Input past end of file", Icono::Critico);
+    EXPECT_EQ(Menu(), "(B)|") << "what it starts is not known";
     store.DirAplic = c.Ruta();
     Abre("mnuAñadirTool");
     anade(" ", Textos(232), Icono::Exclamacion);
