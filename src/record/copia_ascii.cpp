@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <vector>
 
-#include "platform/enteros.h"
 #include "platform/ficheros.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
