@@ -15,4 +15,4 @@ instala_paquetes() {
 
 PAQUETES_CONSTRUIR=(g++ cmake ninja-build ccache qt6-base-dev mdbtools-dev pkgconf)
 PAQUETES_EJECUTAR=(libqt6widgets6 qt6-qpa-plugins libxcb-cursor0 fonts-dejavu-core qt6-translations-l10n)
-PAQUETES_PROBAR=(libgtest-dev libbenchmark-dev locales)
+PAQUETES_PROBAR=(libgtest-dev libbenchmark-dev locales dpkg-dev file)

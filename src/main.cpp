@@ -8,6 +8,7 @@ int main(int argc, char** argv)
 {
     const std::string programa = veldix::CarpetaPrograma(argv[0]);
     QApplication app(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("veldix"));
     std::string linea;
     const QStringList argumentos = QApplication::arguments().mid(1);
     for (const QString& a : argumentos)
