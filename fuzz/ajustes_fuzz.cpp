@@ -18,7 +18,8 @@ std::vector<std::string> LineasDe(const std::string& ruta)
 
 void ExigeErrorDeLectura(int numero)
 {
-    Exige(numero == error::kFinDeFichero || numero == error::kTipos || numero == error::kDesbordamiento,
+    Exige(numero == error::kFinDeFichero || numero == error::kTipos || numero == error::kDesbordamiento ||
+              numero == error::kSubindice,
           "error of settings");
 }
 
@@ -86,6 +87,7 @@ void CompruebaIdioma(RecordStore& s, std::int16_t idioma)
     antes.Idioma = idioma;
     Exige(Iguales(antes, despues), "tools changed by the switch");
     RepasaSesion(s, nullptr);
+    CargaTextos(s.FicheroIdioma);
     Exige(s.Idioma == idioma && Textos(kNumTextos) == "z", "language after the switch");
 }
 

@@ -1,5 +1,6 @@
 #include "analysis/pagina_fasores.h"
 
+#include "platform/enteros.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
@@ -25,7 +26,7 @@ void MideHoja(HojaFasores& h, double w, double alto, double altoDiagrama, const 
     h.caja = {0.15 * w, 0.05 * w, 0.9 * w, 0.8 * alto};
     h.CentroX = 0.15 * w + h.caja.Ancho() / 2.0;
     h.CentroY = 0.05 * w + h.caja.Alto() / 2.0;
-    h.EscalaPapel = 0.72 * alto / altoDiagrama;
+    h.EscalaPapel = Divide(0.72 * alto, altoDiagrama);
     h.xTexto = letra.aa + h.marco.izquierda;
     h.xTrazo = h.xTexto + 6.0 * letra.aa;
     h.xFecha = ColumnaDerecha(alto);
@@ -58,7 +59,8 @@ HojaFasores ComponeFasores(const RecordStore& s, const Diagrama& d, const std::v
         h.lineas.push_back(l);
     }
     h.titulo = Mayusculas(pie.titulo);
-    h.fichero = Textos(265) + pie.fichero;
+    h.fichero = Textos(265) + CabeFinal(impresora, pie.fichero,
+                                        h.marco.derecha - h.xTexto - impresora.AnchoTexto(Textos(265) + " "));
     h.fecha = pie.fecha;
     h.numero = TextoNumero(d, fila);
     return h;

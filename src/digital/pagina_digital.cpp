@@ -33,7 +33,7 @@ void PonCabecera(HojaOndas& h, RedactorHoja& r, const RecordStore& s, const Dato
     for (double ancho = 0.0; par > 0.0 && ancho < fin - x; ancho += par)
         raya += "__";
     r.Pon(x, r.Fila(0), raya, kNormal);
-    r.PonPar(x, r.Fila(1), "Fichero origen : ", s.FicheroDat);
+    r.PonFichero(x, r.Fila(1), "Fichero origen : ", s.FicheroDat);
     const std::string& unidades = s.Canales(s.CanalRef).Unidades;
     const auto valor = [&](float cursor) {
         return ValorCursor{"", TextoValor(s.Muestras(static_cast<int>(cursor), s.CanalRef), unidades)};

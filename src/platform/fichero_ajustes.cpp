@@ -1,6 +1,8 @@
 #include "platform/fichero_ajustes.h"
 
 #include "platform/codigos.h"
+#include "platform/errores.h"
+#include "platform/texto.h"
 
 namespace veldix {
 
@@ -12,13 +14,18 @@ LectorLineas AbreAjustes(const std::string& ruta)
 void GuardaAjustes(const std::string& ruta, std::vector<std::string> lineas)
 {
     for (std::string& linea : lineas)
-        std::erase_if(linea, [](char c) { return c == '\r' || c == '\n'; });
+        linea = SinFinesDeLinea(linea);
     const std::string texto = Une(lineas);
     bool cabe = true;
     const std::string octetos = APagina(texto, &cabe);
     // Octets of the page that would be taken for UTF-8 when they are read back.
     const bool confunde = !EsAscii(octetos) && EsUtf8(octetos);
-    ReemplazaFichero(BuscaSinCaja(ruta), cabe && !confunde ? octetos : texto);
+    const std::string& nuevo = cabe && !confunde ? octetos : texto;
+    const std::string destino = BuscaSinCaja(ruta);
+    // What stands there already needs no folder that may be written.
+    std::string actual;
+    if (Intenta([&] { actual = LeeOctetos(destino); }) && actual == nuevo) return;
+    ReemplazaFichero(destino, nuevo);
 }
 
 }  // namespace veldix

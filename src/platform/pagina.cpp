@@ -1,6 +1,8 @@
 #include "platform/pagina.h"
 
-#include <array>
+#include <algorithm>
+
+#include "platform/texto.h"
 
 namespace veldix {
 
@@ -20,6 +22,17 @@ void PintaMarco(Impresora& impresora, const Marco& m)
     impresora.Linea(m.derecha, m.arriba, m.derecha, m.abajo, 0);
     impresora.Linea(m.derecha, m.abajo, m.izquierda, m.abajo, 0);
     impresora.Linea(m.izquierda, m.abajo, m.izquierda, m.arriba, 0);
+}
+
+std::string CabeFinal(const Impresora& impresora, const std::string& ruta, double ancho)
+{
+    if (impresora.AnchoTexto(ruta) <= ancho) return ruta;
+    std::size_t cabe = 0, sobra = NumCaracteres(ruta);
+    while (sobra - cabe > 1) {
+        const std::size_t n = (cabe + sobra) / 2;
+        (impresora.AnchoTexto("…" + std::string(Derecha(ruta, n))) <= ancho ? cabe : sobra) = n;
+    }
+    return "…" + std::string(Derecha(ruta, cabe));
 }
 
 void EscribeEn(Impresora& impresora, double x, double y, const std::string& texto)

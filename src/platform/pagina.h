@@ -26,6 +26,10 @@ double ColumnaDerecha(double alto);
 /// Its four edges, in black and the present line width.
 void PintaMarco(Impresora& impresora, const Marco& marco);
 
+/// The end of a path that fits into a width in the printer's present letters, its cut marked: the file's name
+/// is what is read.
+std::string CabeFinal(const Impresora& impresora, const std::string& ruta, double ancho);
+
 /// Writes a text at a place.
 void EscribeEn(Impresora& impresora, double x, double y, const std::string& texto);
 

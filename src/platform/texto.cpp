@@ -108,8 +108,15 @@ std::string Minusculas(std::string_view texto)
 
 std::string UnaLinea(std::string_view texto)
 {
+    std::string r = SinFinesDeLinea(texto);
+    std::erase(r, '\0');
+    return r;
+}
+
+std::string SinFinesDeLinea(std::string_view texto)
+{
     std::string r(texto);
-    std::erase_if(r, [](char c) { return c == '\r' || c == '\n' || c == '\0'; });
+    std::erase_if(r, [](char c) { return c == '\r' || c == '\n'; });
     return r;
 }
 

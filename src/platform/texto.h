@@ -16,6 +16,8 @@ std::string Minusculas(std::string_view texto);
 
 /// Without CR, LF and NUL, so that it fits on a line of a file.
 std::string UnaLinea(std::string_view texto);
+/// A text without CR and LF.
+std::string SinFinesDeLinea(std::string_view texto);
 
 /// Characters of a UTF-8 text; an octet that belongs to no valid character counts as one.
 std::size_t NumCaracteres(std::string_view texto);

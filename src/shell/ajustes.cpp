@@ -27,6 +27,7 @@ void RepasaSesion(RecordStore& s, const std::int16_t* idioma)
     LectorLineas lineas = AbreAjustes(RutaFicher(s));
     const std::int16_t deLinea1 = Entero16Local(lineas.Lee());
     const std::int16_t n = Entero16Local(lineas.Lee());
+    if (n < -1) Lanza(error::kSubindice);
     std::vector<std::string> salida{FormaImpresa(idioma ? *idioma : deLinea1), FormaImpresa(n)};
     for (int i = 1; i <= n; ++i)
         salida.push_back(lineas.Lee());
@@ -49,7 +50,6 @@ void CambiaIdiomaFicheros(RecordStore& s, std::int16_t idioma)
     t.Idioma = idioma;
     EscribeToolsIni(s, t);
     EligeFicheroIdioma(s, idioma != 0);
-    CargaTextos(s.FicheroIdioma);
 }
 
 }  // namespace veldix

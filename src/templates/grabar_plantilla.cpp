@@ -1,6 +1,7 @@
 #include "platform/codigos.h"
 #include "platform/ficheros.h"
 #include "platform/numeros.h"
+#include "platform/texto.h"
 #include "templates/conjunto_plantilla.h"
 #include "templates/plantilla.h"
 
@@ -25,7 +26,8 @@ public:
     const std::string& Texto() const { return texto_; }
 
 private:
-    void Linea(const std::string& linea) { texto_ += linea + "\r\n"; }
+    /// A text that was pasted with a line end in it would take the rows behind it out of their places.
+    void Linea(const std::string& linea) { texto_ += SinFinesDeLinea(linea) + "\r\n"; }
 
     void Analogicos()
     {

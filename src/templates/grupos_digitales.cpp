@@ -81,8 +81,9 @@ void GruposDigitales::MuestraGrupo(int grupo)
         filas_.Llena(i, edit.Miembro(kAntesDeMiembros + i), s_.GruposEditNum(grupo, kAntesDeMiembros + i));
 }
 
-GruposDigitales::Alta GruposDigitales::Anade(const std::string& nombre)
+GruposDigitales::Alta GruposDigitales::Anade(const std::string& escrito)
 {
+    const std::string nombre = UnaLinea(escrito);
     const int cuantos = static_cast<int>(lista_.size());
     if (cuantos >= kMayorGrupos) return Alta::Llena;
     if (nombre.empty()) return Alta::SinNombre;

@@ -31,6 +31,7 @@ ToolsIni LeeToolsIni(const RecordStore& s)
     t.DirPlantillas = lineas.Lee();
     t.DirAplic = lineas.Lee();
     const std::int16_t n = Entero16Local(lineas.Lee());
+    if (n < -1) Lanza(error::kSubindice);
     for (int i = 1; i <= n; ++i)
         t.herramientas.push_back(SinExtremos(lineas.Lee()));
     return t;

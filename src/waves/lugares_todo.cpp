@@ -14,8 +14,8 @@ constexpr int kMasLineas = 4;
 void ColocaEtiquetas(LugaresTodo& l, int bandas, double altoLinea)
 {
     const double banda = l.Picture1.alto / bandas + 1.0;
-    l.lineasEtiqueta = std::clamp(static_cast<int>(banda / 2.0 / altoLinea), 1, kMasLineas);
-    const double alto = std::min(l.lineasEtiqueta * altoLinea, banda / 2.0);
+    const int lineas = std::clamp(static_cast<int>(banda / 2.0 / altoLinea), 1, kMasLineas);
+    const double alto = std::min(lineas * altoLinea, banda / 2.0);
     for (int k = 0; k < bandas; ++k) {
         const double cero = k * banda + banda / 2.0;
         l.lblet.push_back({kIzquierdaEtiqueta, cero - alto, kAnchoEtiqueta, alto});

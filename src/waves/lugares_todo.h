@@ -15,7 +15,6 @@ inline constexpr double kBajoTodo = 900.0, kLadoTodo = 1500.0, kIzquierdaTodo = 
 struct LugaresTodo {
     Lugar Picture1;
     std::vector<Lugar> lblet;  ///< two a band: at the yellow and at the cyan cursor
-    int lineasEtiqueta = 1;    ///< lines of text that a label holds
     Lugar HScroll_Nombres;
     Lugar HScroll1, lblam, HScroll2, lblci, lblms;
     Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;

@@ -39,8 +39,8 @@ Rango RangoDe(const Tabla2<float>& muestras, int columna)
 void PonCabecera(HojaOndas& h, RedactorHoja& r, const RecordStore& s, const DatosHoja& d)
 {
     r.PonTitulo(Textos(74), d.titulo, d.fecha);
-    r.PonPar(r.Izquierda(), h.medidas.marco.abajo - r.Alto(kRotulo) - kMargenTexto, Textos(265),
-             s.FicheroDat);
+    r.PonFichero(r.Izquierda(), h.medidas.marco.abajo - r.Alto(kRotulo) - kMargenTexto, Textos(265),
+                 s.FicheroDat);
 }
 
 /// The zero line and the ticks that share its scale.

@@ -52,6 +52,13 @@ double RedactorHoja::PonPar(double x, double y, const std::string& rotulo, const
     return Pon(x + AnchoRotulo(rotulo), y, valor, kNormal);
 }
 
+void RedactorHoja::PonFichero(double x, double y, const std::string& rotulo, const std::string& ruta)
+{
+    const double ancho = hoja_.medidas.marco.derecha - kMargenTexto - x - AnchoRotulo(rotulo);
+    impresora_.Letra = kNormal;
+    PonPar(x, y, rotulo, CabeFinal(impresora_, ruta, ancho));
+}
+
 std::string RedactorHoja::Cabe(const std::string& nombre, double ancho, LetraPagina letra)
 {
     std::string corto(veldix::Izquierda(nombre, kMayorNombre));

@@ -42,6 +42,8 @@ public:
     double Pon(double x, double y, const std::string& texto, LetraPagina letra);
     /// A caption and its value behind it; leaves the place behind both.
     double PonPar(double x, double y, const std::string& rotulo, const std::string& valor);
+    /// The record's file behind its caption, the beginning of its path cut where it would leave the frame.
+    void PonFichero(double x, double y, const std::string& rotulo, const std::string& ruta);
     /// Width of a caption and of the blank behind it, which it may bring along.
     double AnchoRotulo(const std::string& rotulo);
     /// A name as far as it fits into a width, its cut marked; never so short that it tells nothing.

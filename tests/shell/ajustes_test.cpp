@@ -122,9 +122,11 @@ TEST_F(Ajustes, ASwitchOfLanguageRewritesBothFilesOrLosesNeither)
     }
     EXPECT_EQ(Ficher().substr(0, 3), " 0 ");
     EXPECT_EQ(s.DirDatos + s.DirPlantillas + s.DirAplic, "/datos/a, b /c ");
+    CargaTextos(s.FicheroIdioma);
     EXPECT_EQ(Textos(277), "Line 277");
     CambiaIdiomaFicheros(s, 1);
     EXPECT_EQ(Ficher() + Tools(), kFicher + kTools);
+    CargaTextos(s.FicheroIdioma);
     EXPECT_EQ(Textos(288), "Línea 288");
 }
 

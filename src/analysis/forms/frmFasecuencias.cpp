@@ -5,6 +5,7 @@
 
 #include "analysis/forms/frmFases.h"
 #include "analysis/forms/frmSecuencias.h"
+#include "platform/errores.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
@@ -86,6 +87,7 @@ void frmFasecuencias::Form_Load()
 
 Marcas frmFasecuencias::MarcasDe(const Cajas& cajas)
 {
+    if (store.NumTrifasic < 0) Lanza(error::kSubindice);
     Marcas marcas;
     for (int g = 1; g <= store.NumTrifasic; ++g) {
         if (g > static_cast<int>(cajas.size())) Lanza(error::kSubindice);

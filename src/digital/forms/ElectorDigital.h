@@ -37,7 +37,7 @@ protected:
     template <class Entrega>
     void AbreVista(Entrega&& entrega)
     {
-        MuestraGasolinoOndas(Q(Textos(286)));
+        MuestraGasolinoOndas(Q(Rotulo(286, "Preparando los canales digitales...")));
         PonGasolinoOndas(10);
         entrega();
         Frame3->Aplica();

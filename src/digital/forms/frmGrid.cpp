@@ -47,10 +47,11 @@ void frmGrid::CreaPanel()
     Frame1 = new MarcoCanalRef(Rotulo(74, "Canales Analógicos "), panel_);
     Frame3 = new MarcoReferencia("Frame3", panel_);
     Label99 = CreaEtiqueta(panel_, "Label99");
-    Label99->setText(Q(Rotulo(75, "")));
+    Label99->setText(Q(Rotulo(
+        75, "En azul, los canales que cambian de estado. Un clic elige el canal y un doble clic lo quita.")));
     Label99->setWordWrap(true);
     Label101 = CreaEtiqueta(panel_, "Label101");
-    Label101->setText(Q(Rotulo(73, "")));
+    Label101->setText(Q(Rotulo(73, "Canales elegidos:")));
     Label102 = CreaEtiqueta(panel_, "Label102");
     cmdOK = CreaBoton(panel_, "cmdOK", 24, "Aceptar");
     cmdcancel = CreaBoton(panel_, "cmdcancel", 25, "Cancelar");

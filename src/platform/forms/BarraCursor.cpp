@@ -15,16 +15,16 @@ BarraCursor::BarraCursor(const QString& nombre, const QString& accesible, QWidge
     setFocusPolicy(Qt::StrongFocus);
 }
 
-/// A scroll bar's own arrow keys run against the page keys.
+/// A scroll bar's own Up and Down run against its page keys.
 void BarraCursor::keyPressEvent(QKeyEvent* evento)
 {
     switch (evento->key()) {
         case Qt::Key_Left:
-        case Qt::Key_Down:
+        case Qt::Key_Up:
             triggerAction(SliderSingleStepSub);
             break;
         case Qt::Key_Right:
-        case Qt::Key_Up:
+        case Qt::Key_Down:
             triggerAction(SliderSingleStepAdd);
             break;
         default:

@@ -39,6 +39,15 @@ const std::string& EtiquetasCorridas::Nombre(int k) const
 void EtiquetasCorridas::Pon(int k, const std::string& texto)
 {
     Etiqueta(k)->setText(Q(texto));
+    MuestraPrincipio(k, false);
+}
+
+void EtiquetasCorridas::MuestraPrincipio(int k, bool principio)
+{
+    const Qt::Alignment lado = Etiqueta(k)->alignment();
+    if (lado.testFlag(Qt::AlignVCenter)) return;
+    Etiqueta(k)->setAlignment((lado & Qt::AlignHorizontal_Mask) |
+                              (principio ? Qt::AlignTop : Qt::AlignBottom));
 }
 
 void EtiquetasCorridas::Guarda(int k)
@@ -71,12 +80,14 @@ void EtiquetasCorridas::Corre()
     for (int k = 1; k <= Cuantas(); ++k) {
         const std::size_t largo = NumCaracteres(Nombre(k));
         Pon(k, std::string(Derecha(Nombre(k), largo - std::min(largo, quita))));
+        MuestraPrincipio(k, quita > 0);
     }
 }
 
 void EtiquetasCorridas::Restaura(int k)
 {
     Pon(k, Nombre(k));
+    MuestraPrincipio(k, true);
 }
 
 bool EtiquetasCorridas::eventFilter(QObject* objeto, QEvent* evento)

@@ -44,6 +44,8 @@ protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
+    /// Labels in lines (EtiquetaLineas) show the beginning of a text, or the end with the value.
+    void MuestraPrincipio(int k, bool principio);
     std::size_t Sitio(int k) const;
     void Guarda(int k);
 

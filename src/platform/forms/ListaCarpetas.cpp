@@ -153,7 +153,10 @@ void ListaCarpetas::Entra(QTreeWidgetItem* linea)
 {
     if (!linea) return;
     const std::string destino = U(linea->data(0, Qt::UserRole).toString());
-    Atrapa(FormularioDe(this), [&] { Pon(destino); });
+    Atrapa(FormularioDe(this), [&] {
+        Pon(destino);
+        Q_EMIT Elige();
+    });
 }
 
 void ListaCarpetas::keyPressEvent(QKeyEvent* evento)

@@ -42,6 +42,7 @@ public:
 
 Q_SIGNALS:
     void Cambio();  ///< Ruta has changed
+    void Elige();   ///< the user chose a folder, be it the one where the list stands
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;

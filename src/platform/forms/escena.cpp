@@ -119,6 +119,11 @@ void LeeDirectoriosAjustes()
     if (escena.leeDirectorios) escena.leeDirectorios();
 }
 
+void DescargaSelectores()
+{
+    if (escena.descargaSelectores) escena.descargaSelectores();
+}
+
 void ActivaOrdenesPlantilla()
 {
     if (escena.activaPlantilla) escena.activaPlantilla();

@@ -17,8 +17,9 @@ struct Escena {
     QMdiArea* area = nullptr;           ///< where the views stand
     std::function<void()> muestraMenu;  ///< makes the menu visible and maximised
     std::function<void()> ocultaMenu;
-    std::function<void()> leeDirectorios;   ///< takes the default folders from the settings; shows its error
-    std::function<void()> activaPlantilla;  ///< the menu commands that need a template in force
+    std::function<void()> leeDirectorios;  ///< takes the default folders from the settings; shows its error
+    std::function<void()> descargaSelectores;  ///< unloads the choosers: their channels are about to change
+    std::function<void()> activaPlantilla;     ///< the menu commands that need a template in force
     /// The menu follows the tools of the settings (FrmMenu::ActivaAnalisis). Raises what reading them raises.
     std::function<void()> actualizaTools;
     std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir;  ///< true where it took the key
@@ -36,6 +37,7 @@ extern Escena escena;
 void MuestraMenu();
 void OcultaMenu();
 void LeeDirectoriosAjustes();
+void DescargaSelectores();
 void ActivaOrdenesPlantilla();
 void ActualizaTools();
 void MuestraGasolinoOndas(const QString& titulo);

@@ -33,14 +33,27 @@ QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char
     return b;
 }
 
+/// Hinted letters do not narrow in proportion: what the first guess leaves too wide is narrowed on.
+int AnchoLetra(QFont letra, const QString& texto, int ancho)
+{
+    constexpr int kMenorAncho = 60;
+    int parte = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
+    int pide = QFontMetrics(letra).horizontalAdvance(texto);
+    while (pide > ancho && parte > kMenorAncho) {
+        parte = qMax(kMenorAncho, qMin(parte - 1, parte * ancho / pide));
+        letra.setStretch(parte);
+        pide = QFontMetrics(letra).horizontalAdvance(texto);
+    }
+    return parte;
+}
+
 void PonTexto(QLabel* etiqueta, const QString& texto)
 {
-    constexpr int kMenorAncho = 60;  // percent
     QFont letra = etiqueta->font();
-    const int pide = QFontMetrics(letra).horizontalAdvance(texto);
-    if (pide > etiqueta->width() && etiqueta->width() > 0) {
-        const int ahora = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
-        letra.setStretch(qMax(kMenorAncho, ahora * etiqueta->width() / pide));
+    const int ahora = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
+    const int parte = etiqueta->width() > 0 ? AnchoLetra(letra, texto, etiqueta->width()) : ahora;
+    if (parte != ahora) {
+        letra.setStretch(parte);
         etiqueta->setFont(letra);
     }
     etiqueta->setText(texto);

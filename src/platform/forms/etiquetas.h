@@ -16,6 +16,10 @@ QLabel* CreaRotulo(QWidget* control, const QString& nombre, const std::string& t
 /// A button captioned with a language line, `defecto` where that was not loaded.
 QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char* defecto);
 
+/// The percentage, 60 to that of `letra` or 100, to which letters are condensed for a text to fit a width in
+/// pixels; 60 where it does not fit even so.
+int AnchoLetra(QFont letra, const QString& texto, int ancho);
+
 /// Sets a text and, where it is wider than its label, condenses the letters as far as they stay legible.
 /// They do not widen again before the label gets its font anew, so that they stand still while a bar moves.
 void PonTexto(QLabel* etiqueta, const QString& texto);

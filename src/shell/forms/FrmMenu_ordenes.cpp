@@ -153,8 +153,11 @@ void FrmMenu::mnuIngles_Click()
 void FrmMenu::CambiaIdioma(std::int16_t idioma)
 {
     store.Idioma = idioma;
-    Atrapa(this, [idioma] { CambiaIdiomaFicheros(store, idioma); });
-    PonRotulos();
+    Atrapa(this, [this, idioma] {
+        CambiaIdiomaFicheros(store, idioma);
+        LeeTextos();
+        PonRotulos();
+    });
 }
 
 void FrmMenu::mnuSalir_Click()

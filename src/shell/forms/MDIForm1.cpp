@@ -116,6 +116,7 @@ void MDIForm1::LlenaGanchos()
     escena.muestraMenu = [this] { MuestraMenu(); };
     escena.ocultaMenu = [this] { OcultaMenu(); };
     escena.leeDirectorios = [] { Atrapa(nullptr, [] { LeeDirectorios(store); }); };
+    escena.descargaSelectores = [] { FrmMenu::DescargaSelectores(); };
     escena.activaPlantilla = [] {
         FrmMenu::DescargaSelectores();
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();

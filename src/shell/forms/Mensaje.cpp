@@ -12,14 +12,22 @@ namespace veldix {
 
 Portador<Mensaje> Mensaje::unica;
 
+namespace {
+
+constexpr const char* kTexto =
+    "Elija la unidad y el directorio de destino, escriba el nombre del nuevo registro sin extensión y pulse "
+    "Aceptar. Se escribe el fichero .DAT en formato ASCII, junto con sus ficheros .cfg y .hdr.";
+
+}  // namespace
+
 Mensaje::Mensaje(std::function<void()> renueva)
     : Formulario(escena.principal, Qt::Dialog),
       renueva_(std::move(renueva)),
-      Label1(new QLabel(Q(Textos(159)), this)),
+      Label1(new QLabel(Q(Rotulo(159, kTexto)), this)),
       OK(new QPushButton(Q(Rotulo(24, "Aceptar")), this))
 {
     setObjectName(QStringLiteral("Mensaje"));
-    setWindowTitle(Q(Textos(158)));
+    setWindowTitle(Q(Rotulo(158, "Ayuda de la conversión")));
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setTextFormat(Qt::PlainText);
     Label1->setWordWrap(true);

@@ -25,9 +25,9 @@ frmDirect::frmDirect() : Formulario(escena.principal, Qt::Dialog)
     Conecta(oscilos.drv, &ListaUnidades::Cambio, this, &frmDirect::drvoscilos_Change);
     Conecta(plantillas.drv, &ListaUnidades::Cambio, this, &frmDirect::drvplantillas_Change);
     Conecta(aplic.drv, &ListaUnidades::Cambio, this, &frmDirect::drvaplic_Change);
-    Conecta(oscilos.dir, &ListaCarpetas::Cambio, this, &frmDirect::diroscilos_Change);
-    Conecta(plantillas.dir, &ListaCarpetas::Cambio, this, &frmDirect::dirplantillas_Change);
-    Conecta(aplic.dir, &ListaCarpetas::Cambio, this, &frmDirect::diraplic_Change);
+    Conecta(oscilos.dir, &ListaCarpetas::Elige, this, &frmDirect::diroscilos_Change);
+    Conecta(plantillas.dir, &ListaCarpetas::Elige, this, &frmDirect::dirplantillas_Change);
+    Conecta(aplic.dir, &ListaCarpetas::Elige, this, &frmDirect::diraplic_Change);
     Conecta(cmdOK, &QPushButton::clicked, this, &frmDirect::cmdOK_Click);
     Conecta(cmdcancel, &QPushButton::clicked, this, &frmDirect::cmdcancel_Click);
 }

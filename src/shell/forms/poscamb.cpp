@@ -29,7 +29,8 @@ poscamb::poscamb() : Formulario(escena.principal, Qt::Dialog)
 void poscamb::CreaControles()
 {
     Label1 = CreaEtiqueta(this, "Label1");
-    Label1->setText(Q(Textos(154)));
+    Label1->setText(Q(Rotulo(
+        154, "El registro está en formato BINARY. Puede convertirlo a ASCII o continuar sin convertirlo.")));
     Label1->setWordWrap(true);
     const QFontMetrics letra = fontMetrics();  // on one line, unless a translation is much longer
     Label1->setMinimumWidth(

@@ -141,11 +141,18 @@ void frmAnalog::txtnumAnalog_Change()
     PonTitulos();
 }
 
+/// The plain text of a text box would turn no-break spaces, which a template may hold, into blanks.
+std::string frmAnalog::Identificacion() const
+{
+    QString texto = txtIdentif->document()->toRawText();
+    return UnaLinea(U(texto.remove(QChar::ParagraphSeparator).remove(QChar::LineSeparator)));
+}
+
 void frmAnalog::cmdOK_Click()
 {
     AvisaTipos(175, Icono::Critico, [this] {
         vaSpread1->TerminaEdicion();
-        store.EstacionPlan = std::string(Recorta(UnaLinea(U(txtIdentif->toPlainText()))));
+        store.EstacionPlan = std::string(Recorta(Identificacion()));
         store.NumCanalPlan = Cuenta();
         if (store.NumCanalPlan == 0) {
             Avisa(Textos(244));
@@ -165,7 +172,7 @@ void frmAnalog::cmdOK_Click()
 void frmAnalog::cmdvolver_Click()
 {
     vaSpread1->TerminaEdicion();
-    store.EstacionPlan = UnaLinea(U(txtIdentif->toPlainText()));
+    store.EstacionPlan = Identificacion();
     store.NumCanalPlan = Cuenta();
     if (store.NumCanalPlan != 0) GuardaCanales(store, LeeFilas(store.NumCanalPlan));
     VuelveASeleccion();

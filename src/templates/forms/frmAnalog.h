@@ -30,6 +30,7 @@ private:
 
     void txtIdentif_Change();
     void txtnumAnalog_Change();
+    std::string Identificacion() const;
     void cmdOK_Click();
     void cmdvolver_Click();
     void cmdcancel_Click();

@@ -138,12 +138,14 @@ void frmPlantilla::cmdBuscar_Click()
     PonPuntero(this, Puntero::Normal);
 }
 
-/// A template that does not fit the record, whose own channels are read again.
+/// A template that does not fit the record, whose own channels are read again: choosers that list those of
+/// the template before go.
 void frmPlantilla::Rechaza(const std::string& estacion)
 {
     store.EstacionPlan = estacion;
     Avisa(Textos(253), Icono::Critico);
     PonPuntero(this, Puntero::Normal);
+    DescargaSelectores();
     LeerCfg(store);
 }
 

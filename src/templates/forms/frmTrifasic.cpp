@@ -155,7 +155,7 @@ void frmTrifasic::MuestraGrupos()
         grupo.nbTrif->setText(Q(fila.Nombre));
         grupo.txtFactor->setText(Q(fila.Factor));
         for (int p = 1; p <= kFases; ++p)
-            grupo.ranuras.Llena(p, NombreCanalPlan(store, fila.Fase(p)), fila.Fase(p));
+            if (fila.Fase(p) != 0) grupo.ranuras.Llena(p, NombreCanalPlan(store, fila.Fase(p)), fila.Fase(p));
         grupo.filas->Muestra(grupo.ranuras);
     }
     ActivaGrupos(store.NumTrifasicPlan);

@@ -84,7 +84,7 @@ void ElectorOndas::EmpiezaApertura(int avance)
     abriendo_ = true;
     PonPunteros(this, Puntero::Propio);
     hide();
-    MuestraGasolinoOndas(Q(Textos(285)));
+    MuestraGasolinoOndas(Q(Rotulo(285, "Preparando las ondas...")));
     PonGasolinoOndas(avance);
 }
 

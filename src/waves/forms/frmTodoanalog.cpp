@@ -1,5 +1,6 @@
 #include "waves/forms/frmTodoanalog.h"
 
+#include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
@@ -33,7 +34,7 @@ void frmTodoanalog::CreaControles()
     HScroll_Nombres = new BarraCursor("HScroll_Nombres", Q(Rotulo(256, "Canales elegidos")), this);
     std::vector<QLabel*> etiquetas;
     for (int k = 1; k <= kEtiquetas; ++k) {
-        etiquetas.push_back(CreaEtiqueta(this, QString("lblet%1").arg(k)));
+        etiquetas.push_back(new EtiquetaLineas(this, QString("lblet%1").arg(k)));
         PonFondo(etiquetas.back(), ColorPaleta(k % 2 == 1 ? 14 : 11));
         etiquetas.back()->hide();
     }
@@ -83,9 +84,6 @@ void frmTodoanalog::ColocaEtiquetas(const LugaresTodo& l)
     for (int k = 1; k <= static_cast<int>(l.lblet.size()); ++k) {
         QLabel* etiqueta = lblet->Etiqueta(k);
         Pon(etiqueta, l.lblet[static_cast<std::size_t>(k - 1)]);
-        etiqueta->setWordWrap(l.lineasEtiqueta > 1);
-        // What does not fit is lost at the beginning of the name, not at the value.
-        etiqueta->setAlignment(Qt::AlignLeft | (l.lineasEtiqueta > 1 ? Qt::AlignBottom : Qt::AlignVCenter));
         etiqueta->setVisible(true);
     }
 }
@@ -106,8 +104,12 @@ void frmTodoanalog::Rehace()
     PintaMarco();
     Curvas(1, ultima_, EscalaCurva);
     PonGasolinoOndas(40);
-    HScroll1_Change();
-    HScroll2_Change();
+    Cursor1 = Cursor2 = 1.0F;
+    PonLinea(linea1_, XCursor(Cursor1));
+    PonLinea(linea2_, XCursor(Cursor2));
+    PonValores(1);
+    PonValores(2);
+    PonTexto(lblms, "0.000 ms");
 }
 
 void frmTodoanalog::PintaMarco()
@@ -157,7 +159,7 @@ double frmTodoanalog::XCursor(float cursor) const
 
 /// Values are those of the channel's row, curves those of its number: the two differ where a template
 /// renumbers channels. The last name is kept only when the second cursor moves.
-void frmTodoanalog::PonTextos(int cursor)
+void frmTodoanalog::PonValores(int cursor)
 {
     const int m1 = HScroll1->value(), m2 = HScroll2->value();
     PonTexto(cursor == 1 ? lblam : lblci, Q(TextoMuestra(cursor == 1 ? m1 : m2)));
@@ -167,8 +169,13 @@ void frmTodoanalog::PonTextos(int cursor)
         lblet->Pon(par, nombre + TextoValor(store.Muestras(m1, r), unidades));
         lblet->Pon(par + 1, nombre + TextoValor(store.Muestras(m2, r), unidades));
     }
-    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
     lblet->Recoge(cursor == 1 ? kEtiquetas - 1 : kEtiquetas, true);
+}
+
+void frmTodoanalog::PonTextos(int cursor)
+{
+    PonValores(cursor);
+    PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
 }
 
 std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)

@@ -25,6 +25,7 @@ protected:
     void Repinta() override;
     double XCursor(float cursor) const override;
     void PonTextos(int cursor) override;
+    void PonValores(int cursor);
     std::optional<HojaOndas> Hoja(Impresora& impresora) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "waves/forms/frmVerCmpang.h"
 
 #include "platform/ficheros.h"
+#include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/forms/iconos.h"
@@ -64,7 +65,7 @@ EtiquetasCorridas* frmVerCmpang::CreaColumna(const char* nombre, BarraCursor* ba
 {
     std::vector<QLabel*> etiquetas;
     for (int k = 1; k <= kCanalesComp; ++k) {
-        etiquetas.push_back(CreaEtiqueta(this, QString(nombre) + QString::number(k)));
+        etiquetas.push_back(new EtiquetaLineas(this, QString(nombre) + QString::number(k)));
         etiquetas.back()->setContentsMargins(kFranja + 2, 0, 0, 0);
         etiquetas.back()->hide();
         (new QLabel(etiquetas.back()))->setGeometry(0, 0, kFranja, QWIDGETSIZE_MAX);
@@ -171,8 +172,6 @@ void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasC
         QLabel* etiqueta = textos->Etiqueta(k);
         Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);
         etiqueta->setFont(letra);
-        etiqueta->setWordWrap(linea < alto);
-        etiqueta->setAlignment(Qt::AlignLeft | (linea < alto ? Qt::AlignBottom : Qt::AlignVCenter));
     }
 }
 

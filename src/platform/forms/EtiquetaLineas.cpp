@@ -1,0 +1,98 @@
+#include "platform/forms/EtiquetaLineas.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextLayout>
+
+#include "platform/forms/etiquetas.h"
+
+namespace veldix {
+
+namespace {
+
+QStringList Parte(const QString& texto, const QFont& letra, int ancho)
+{
+    QTextLayout reparto(texto, letra);
+    QTextOption opcion;
+    opcion.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    reparto.setTextOption(opcion);
+    QStringList lineas;
+    reparto.beginLayout();
+    for (QTextLine linea = reparto.createLine(); linea.isValid(); linea = reparto.createLine()) {
+        linea.setLineWidth(ancho);
+        lineas.append(texto.mid(linea.textStart(), linea.textLength()).trimmed());
+    }
+    reparto.endLayout();
+    return lineas;
+}
+
+QString PalabraMasAncha(const QString& texto, const QFontMetrics& metrica)
+{
+    QString mayor;
+    int ancho = 0;
+    const QStringList palabras = texto.split(' ');
+    for (const QString& palabra : palabras)
+        if (const int pide = metrica.horizontalAdvance(palabra); pide > ancho) {
+            ancho = pide;
+            mayor = palabra;
+        }
+    return mayor;
+}
+
+}  // namespace
+
+QStringList LineasVisibles(const QString& texto, const QFont& letra, QSize lugar, bool ultimas)
+{
+    constexpr int kHolgura = 2;  // pixels of the letters' height that hold no letter
+    if (lugar.width() <= 0) return {};
+    const QFontMetrics metrica(letra);
+    const int caben = (lugar.height() + kHolgura) / metrica.height();
+    if (caben <= 1)
+        return {metrica.elidedText(texto, ultimas ? Qt::ElideLeft : Qt::ElideRight, lugar.width())};
+    const QStringList lineas = Parte(texto, letra, lugar.width());
+    return ultimas ? lineas.mid(qMax<qsizetype>(0, lineas.size() - caben)) : lineas.mid(0, caben);
+}
+
+EtiquetaLineas::EtiquetaLineas(QWidget* padre, const QString& nombre) : QLabel(padre)
+{
+    setObjectName(nombre);
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+}
+
+void EtiquetaLineas::changeEvent(QEvent* evento)
+{
+    if (evento->type() == QEvent::FontChange) anchoLetra_ = 100;
+    QLabel::changeEvent(evento);
+}
+
+void EtiquetaLineas::resizeEvent(QResizeEvent* evento)
+{
+    anchoLetra_ = 100;
+    QLabel::resizeEvent(evento);
+}
+
+void EtiquetaLineas::paintEvent(QPaintEvent* /*evento*/)
+{
+    QPainter p(this);
+    drawFrame(&p);
+    const QRect lugar = contentsRect();
+    QFont letra = font();
+    letra.setStretch(anchoLetra_);
+    anchoLetra_ = AnchoLetra(letra, PalabraMasAncha(text(), QFontMetrics(letra)), lugar.width());
+    letra.setStretch(anchoLetra_);
+    p.setFont(letra);
+    p.setPen(palette().color(foregroundRole()));
+    const bool ultimas = alignment().testFlag(Qt::AlignBottom);
+    const QStringList lineas = LineasVisibles(text(), letra, lugar.size(), ultimas);
+    const int alto = QFontMetrics(letra).height();
+    int arriba = ultimas ? lugar.bottom() + 1 - alto * static_cast<int>(lineas.size()) : lugar.top();
+    for (const QString& linea : lineas) {
+        p.drawText(QRect(lugar.left(), arriba, lugar.width(), alto), Qt::AlignLeft | Qt::TextSingleLine,
+                   linea);
+        arriba += alto;
+    }
+}
+
+}  // namespace veldix
