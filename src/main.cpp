@@ -10,9 +10,9 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("veldix"));
     std::string linea;
-    const QStringList argumentos = QApplication::arguments().mid(1);
-    for (const QString& a : argumentos)
-        linea += (linea.empty() ? "" : " ") + a.toStdString();
+    // Octets, not texts: a name of another system's code page is a file all the same.
+    for (int i = 1; i < argc; ++i)
+        linea += (linea.empty() ? "" : " ") + std::string(argv[i]);
     veldix::InstalaEscena();
     veldix::MDIForm1 principal(programa, linea);
     principal.MDIForm_Load();

@@ -53,7 +53,8 @@ private:
     void PonNumGrupos(int grupos);
     void LimpiaGrupo() { filas_.Limpia(); }
     void CompactaFilas();
-    /// Stores the rows in the edit tables, 0 for a number that is none; without a name the group keeps its own.
+    /// Stores the rows in the edit tables, 0 for a number that is none; without a name the group keeps its
+    /// own.
     void GuardaGrupo(int grupo, const std::optional<std::string>& nombre);
     /// Puts a group's rows on the page.
     void MuestraGrupo(int grupo);

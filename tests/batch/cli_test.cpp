@@ -162,12 +162,13 @@ TEST_F(Cli, FailureOrWrongUsageEndsWellOrPrintsAHalfResult)
     c.Escribe("d/sincfg.dat", "1,0,10,20,0\r\n");
     Registro("anio", "SE,R,1999");
     Registro("formato", "SE,R", "", "FLOAT32");
+    c.Escribe("d/v10.cnf", "ver 1.0\r\nVIEJA\r\n");
     c.Escribe("d/muchos.cnf", ConFinales("ver 1.1|T|ANALOGICOS|9|1%a%x%V$|TRIFASICOS|1|1%2%3%T%1$|-----"));
     const std::pair<const char*, std::vector<const char*>> casos[] = {
         {"1veldix-cli: ",
          {"info d/no.dat", "info d/sincfg.dat", "samples d/anio.dat", "samples d/formato.dat",
-          "info d/rec.dat d/no.cnf", "info d/", "phasors d/formato.dat", "phasors d/rec.dat",
-          "sequences ej/falta_1991.dat d/no.cnf --group 1",
+          "info d/rec.dat d/no.cnf", "info d/rec.dat d/v10.cnf", "info d/", "phasors d/formato.dat",
+          "phasors d/rec.dat", "sequences ej/falta_1991.dat d/no.cnf --group 1",
           "sequences ej/falta_1991.dat ej/falta.cnf --group 3",
           "sequences ej/falta_1991.dat d/muchos.cnf --group 1"}},
         {"2",

@@ -126,18 +126,21 @@ TEST(PaginaOndas, HeadingsNameTheChannelTheCursorsAndTheFile)
     EXPECT_EQ(imp.Letra.puntos, LetraPagina{}.puntos);  // as it was before
 
     s.Canales(2).Nombre = std::string(400, 'n');
+    s.FicheroDat = "/" + std::string(400, 'r') + "/falta.dat";
     Grabadora larga;
     ImprimeHoja(larga,
                 *HojaDeOnda(s, larga, 2, kNiveles[0], 24.0F, {s.Canales(2).Nombre, 20, 21, "", "", ""}));
     int cortados = 0;
     for (const auto& o : larga.De(Tipo::Texto)) {
-        const double fin = o.xs[0] < 8000.0 ? h->medidas.columna : h->medidas.marco.derecha;
+        const bool media = o.xs[0] < 8000.0 && !o.texto.ends_with("falta.dat");
+        const double fin = media ? h->medidas.columna : h->medidas.marco.derecha;
         EXPECT_LE(o.xs[0] + 120.0 * static_cast<double>(o.texto.size()), fin) << o.texto;
         cortados += o.texto.find("…") != std::string::npos;
         const bool valor = o.texto.ends_with("… 10,000 A") || o.texto.ends_with("… -40,000 A");
         EXPECT_EQ(valor, o.texto.find(" n") != std::string::npos) << o.texto;
     }
-    EXPECT_EQ(cortados, 3);  // the title and both cursors' names, never a value
+    EXPECT_EQ(cortados, 4);  // the title, both cursors' names and the path, never a value
+    EXPECT_TRUE(larga.Primero("…r").texto.ends_with("r/falta.dat"));
     s = Registro(1, 1);
     EXPECT_FALSE(HojaDeOnda(s, imp, 1, {0, 5000, 200, 9800, 1, 0, 5000, 10000, 9600, 2500}, 24.0F, {}));
 }

@@ -40,6 +40,20 @@ QString PalabraMasAncha(const QString& texto, const QFontMetrics& metrica)
     return mayor;
 }
 
+/// As many of the last words as fit, never fewer than the value and its units: half a figure would be
+/// misread.
+QString UltimasPalabras(const QString& texto, const QFontMetrics& metrica, int ancho)
+{
+    QString resto = texto;
+    while (metrica.horizontalAdvance(resto) > ancho && resto.count(' ') > 1) {
+        resto.remove(0, resto.indexOf(' ') + 1);
+        if (const QString marcado = "…" + resto; metrica.horizontalAdvance(marcado) <= ancho) return marcado;
+    }
+    // The toolkit would elide a text that only just fits.
+    return metrica.horizontalAdvance(resto) <= ancho ? resto
+                                                     : metrica.elidedText(resto, Qt::ElideRight, ancho);
+}
+
 }  // namespace
 
 QStringList LineasVisibles(const QString& texto, const QFont& letra, QSize lugar, bool ultimas)
@@ -49,7 +63,8 @@ QStringList LineasVisibles(const QString& texto, const QFont& letra, QSize lugar
     const QFontMetrics metrica(letra);
     const int caben = (lugar.height() + kHolgura) / metrica.height();
     if (caben <= 1)
-        return {metrica.elidedText(texto, ultimas ? Qt::ElideLeft : Qt::ElideRight, lugar.width())};
+        return {ultimas ? UltimasPalabras(texto, metrica, lugar.width())
+                        : metrica.elidedText(texto, Qt::ElideRight, lugar.width())};
     const QStringList lineas = Parte(texto, letra, lugar.width());
     return ultimas ? lineas.mid(qMax<qsizetype>(0, lineas.size() - caben)) : lineas.mid(0, caben);
 }

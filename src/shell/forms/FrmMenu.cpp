@@ -45,7 +45,14 @@ FrmMenu::FrmMenu() : Vista(etiqueta::kMenu)
     mnuInform->setEnabled(false);
     mnuanalisis->menuAction()->setEnabled(false);
     Lblversion = CreaTitulo(this, "Lblversion", "   VELDIX 2.1.7   ", 1.1);
+    PideAncho();
     Atrapa(this, [this] { Form_Load(); });
+}
+
+/// No head of the bar is ever left over, see AlDesplegar.
+void FrmMenu::PideAncho()
+{
+    if (escena.principal) escena.principal->setMinimumWidth(barra_->sizeHint().width());
 }
 
 /// The order matters: where a settings file fails, the rest is left as it was built.
@@ -135,6 +142,7 @@ void FrmMenu::PonRotulos()
 {
     for (const Rotulado& r : rotulados_)
         r.accion->setText(Q(Rotulo(r.texto, U(r.defecto))));
+    PideAncho();
     if (principal.rotulos) principal.rotulos();
 }
 

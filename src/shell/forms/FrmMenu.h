@@ -52,8 +52,10 @@ private:
     QAction* Entrada(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
     QMenu* Submenu(QMenu* menu, const QString& nombre, int texto, const QString& defecto);
     void ConectaMenus();
+    void AlDesplegar(QMenu* menu, void (FrmMenu::*manejador)());
     void AjustaHerramientas(int cuenta);
     void ColocaEmblema();
+    void PideAncho();
     void PonRotulos();
     void LeeTextos();
     void CambiaIdioma(std::int16_t idioma);

@@ -1,3 +1,6 @@
+#include <QApplication>
+#include <QTimer>
+
 #include "analysis/forms/frmFasecuencias.h"
 #include "analysis/modDFT.h"
 #include "digital/forms/frmElecdig.h"
@@ -75,9 +78,22 @@ void FrmMenu::ConectaMenus()
     orden("mnuCompdig", &FrmMenu::mnuCompdig_Click);
     orden("mnuFasores", &FrmMenu::mnuFasores_Click);
     orden("mnuInform", &FrmMenu::mnuInform_Click);
-    Conecta(mnuOndas, &QMenu::aboutToShow, this, &FrmMenu::mnuOndas_Click);
-    Conecta(mnuDigital, &QMenu::aboutToShow, this, &FrmMenu::mnuDigital_Click);
-    Conecta(mnuanalisis, &QMenu::aboutToShow, this, &FrmMenu::mnuanalisis_Click);
+    AlDesplegar(mnuOndas, &FrmMenu::mnuOndas_Click);
+    AlDesplegar(mnuDigital, &FrmMenu::mnuDigital_Click);
+    AlDesplegar(mnuanalisis, &FrmMenu::mnuanalisis_Click);
+}
+
+/// In a window too narrow for its bar the toolkit lends the heads that are left over to a menu of its own,
+/// which has no name and does not outlive a message box: there the handler comes when that menu has gone.
+void FrmMenu::AlDesplegar(QMenu* menu, void (FrmMenu::*manejador)())
+{
+    Conecta(menu, &QMenu::aboutToShow, this, [manejador](FrmMenu* form) {
+        const QWidget* abierto = QApplication::activePopupWidget();
+        if (abierto && abierto->objectName().isEmpty())
+            QTimer::singleShot(0, form, [form, manejador] { Atrapa(form, [&] { (form->*manejador)(); }); });
+        else
+            (form->*manejador)();
+    });
 }
 
 void FrmMenu::mnuAbrirComtrade_Click()
@@ -88,10 +104,10 @@ void FrmMenu::mnuAbrirComtrade_Click()
     if (!abierto) return;
     if (store.FormatoDat == "ASCII") {
         frmPlantilla::unica.Muestra();
-    } else if (store.FormatoDat == "BINARY") {
-        frmPlantilla::unica.Descarga();  // it comes behind the choice
-        poscamb::unica.Muestra();
+        return;
     }
+    frmPlantilla::unica.Descarga();  // that of the record before; of a BINARY one it comes behind the choice
+    if (store.FormatoDat == "BINARY") poscamb::unica.Muestra();
 }
 
 void FrmMenu::mnuCerrarComtrade_Click()

@@ -3,8 +3,11 @@
 #include <QTimer>
 
 #include "platform/forms/BarraCursor.h"
+#include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/EtiquetasCorridas.h"
 #include "platform/forms/ImpresoraPdf.h"
+#include "platform/forms/escena.h"
+#include "platform/forms/etiquetas.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -30,6 +33,67 @@ TEST(BarraCursor, AHeldArrowLetsGoWhileABoxStandsOverItsStep)
     EXPECT_EQ(barra.value(), 2);
     QTest::mouseClick(&barra, Qt::LeftButton, {}, QPoint(295, 10));
     EXPECT_EQ(barra.value(), 3);
+}
+
+TEST(BarraCursor, ArrowAndPageKeysRunAgainstEachOther)
+{
+    BarraCursor barra("HScroll1", "Cursor 1", nullptr);
+    barra.setRange(1, 1000);
+    for (const auto& [tecla, valor] : {std::pair{Qt::Key_Right, 101},
+                                       {Qt::Key_Down, 101},
+                                       {Qt::Key_Left, 99},
+                                       {Qt::Key_Up, 99},
+                                       {Qt::Key_PageDown, 110},
+                                       {Qt::Key_PageUp, 90}}) {
+        barra.setValue(100);
+        QTest::keyClick(&barra, tecla);
+        EXPECT_EQ(barra.value(), valor) << tecla;
+    }
+}
+
+TEST(EtiquetaLineas, ATextTooLongLosesItsValueOrTheBeginningIsNeverSeen)
+{
+    QWidget marco;
+    auto* etiqueta = new EtiquetaLineas(&marco, "lblet1");
+    BarraCursor barra("HScroll_Nombres", "", &marco);
+    EtiquetasCorridas e({etiqueta}, &barra, &marco);
+    QObject::connect(&e, &EtiquetasCorridas::Click, &e, &EtiquetasCorridas::Restaura);
+    const QFontMetrics letra(marco.font());
+    const auto lugar = [&](int lineas) {
+        return QSize(letra.horizontalAdvance("-1234567,875 kA"), lineas * letra.height());
+    };
+    const QString valor = "-1234567,875 kA";
+    for (const char* nombre :
+         {"I:", "SUBESTACION NORTE:", "SUBESTACION NORTE LINEA 1 TENSION FASE A DE BARRAS:"})
+        for (int lineas = 1; lineas <= 4; ++lineas) {
+            const QStringList fin = LineasVisibles(nombre + (" " + valor), marco.font(), lugar(lineas), true);
+            ASSERT_LE(fin.size(), lineas);
+            EXPECT_TRUE(fin.join(" ").contains("234567,875 kA")) << nombre << lineas << U(fin.join("/"));
+            const QStringList principio =
+                LineasVisibles(nombre + (" " + valor), marco.font(), lugar(lineas), false);
+            EXPECT_TRUE(principio.join(' ').startsWith(QString(nombre).left(8))) << nombre << lineas;
+        }
+    etiqueta->resize(lugar(2));
+    e.Pon(1, "SUBESTACION NORTE LINEA 1 TENSION FASE A: 1,000 kA");
+    e.Recoge(1, true);
+    EXPECT_TRUE(etiqueta->alignment().testFlag(Qt::AlignBottom));
+    QTest::mouseClick(etiqueta, Qt::LeftButton);
+    EXPECT_TRUE(etiqueta->alignment().testFlag(Qt::AlignTop)) << "a click shows the name";
+    e.Pon(1, "SUBESTACION NORTE LINEA 1 TENSION FASE A: 2,000 kA");
+    EXPECT_TRUE(etiqueta->alignment().testFlag(Qt::AlignBottom)) << "a step shows the value";
+}
+
+TEST(Etiquetas, FiguresAreCutThoughTheyCouldBeCondensed)
+{
+    QLabel etiqueta;
+    for (const char* texto : {"-6353,830 A", "18180,244 A", "0.000 ms", "-1234567,875 kA"})
+        for (int parte = 65; parte <= 100; parte += 5) {
+            etiqueta.setFont({});
+            etiqueta.resize(QFontMetrics(etiqueta.font()).horizontalAdvance(texto) * parte / 100, 20);
+            PonTexto(&etiqueta, texto);
+            EXPECT_LE(QFontMetrics(etiqueta.font()).horizontalAdvance(texto), etiqueta.width())
+                << texto << parte;
+        }
 }
 
 TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)

@@ -1,5 +1,6 @@
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 
@@ -133,7 +134,18 @@ TEST_F(Inicio, DamagedSettingsStopTheProgramOrAreCut)
         EXPECT_EQ(Hijo<QMenu>("mnuanalisis")->menuAction()->isEnabled(), a.analisis);
         EXPECT_TRUE(Menu()->isVisible());
         EXPECT_TRUE(store.RegistroAbierto) << "a record of the command line is lost with the settings";
+        EXPECT_GE(principal->minimumWidth(), Hijo<QMenuBar>("")->sizeHint().width())
+            << "a menu is lent to the bar's own one, which a message box ends";
     }
+    PonIni("0");
+    fs::permissions(c.Ruta(), fs::perms(0755));
+    fs::permissions(c.Ruta("VELDIX/ini"), fs::perms(0555));
+    {
+        const prueba::SinPrivilegios nadie;
+        Arranca();
+    }
+    fs::permissions(c.Ruta("VELDIX/ini"), fs::perms::owner_all);
+    EXPECT_EQ(U(cmdSalir()->text()), "Exit") << "settings that need no change were to be written";
 }
 
 TEST_F(Inicio, ExitKeyAnswersInTheWrongLanguageOrShiftState)

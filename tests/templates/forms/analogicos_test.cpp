@@ -56,7 +56,7 @@ TEST_F(Analogicos, FromScratchTypedRowsAreLostOrEmptyOnesPass)
     Pulsa("cmdOK");
     Da<QLineEdit>("txtnumAnalog")->clear();
     Pulsa("cmdOK");
-    Identifica(" Línea 1 ");
+    Identifica(" L\u00A0nea 1 ");
     QTest::keyClick(Da<QPlainTextEdit>("txtIdentif"), Qt::Key_Return);
     EXPECT_EQ(Da<QWidget>("txtnumAnalog"), frmAnalog::unica.Cargado()->focusWidget());
     Teclea("txtnumAnalog", "12");
@@ -72,7 +72,7 @@ TEST_F(Analogicos, FromScratchTypedRowsAreLostOrEmptyOnesPass)
     Pulsa("cmdOK");
     EXPECT_EQ(Pagina(), "frmTrifasic");
     const FilaCanal& fila = store.CanalesPlan(1);
-    EXPECT_EQ(store.EstacionPlan + "|" + fila.Numero + fila.Nombre, "Línea 1|1VA%");
+    EXPECT_EQ(store.EstacionPlan + "|" + fila.Numero + fila.Nombre, "L\u00A0nea 1|1VA%");
     EXPECT_EQ(store.CanalesPlan.Cuantos() + store.NumCanalPlan, 2);
 }
 

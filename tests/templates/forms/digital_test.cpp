@@ -147,7 +147,7 @@ TEST_F(Digitales, ANameOrANumberThatTheFileCannotCarryStays)
     EXPECT_EQ(Filas(), " *4 5x");
     Teclea("lbl2", "1x-");
     EXPECT_EQ(Texto("lbl2"), "1x-");
-    Teclea("grp1", "*#?[");
+    Da<QLineEdit>("grp1")->setText("*#\n?[\r\n");  // as it is pasted from a text editor
     EXPECT_EQ(Guardada(), ConFinales("DIGITALES|3| 2 |***|G1| 2 |4%*#?[$|0%x$|***|G2|01|9%c$|-----"));
     Abre("x.cnf");
     EXPECT_EQ(Filas(), " *4*#?[ 0x") << "read back";

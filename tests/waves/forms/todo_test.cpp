@@ -130,6 +130,16 @@ TEST_F(TodoTest, TheThirtyFirstZoomAndABadColumnCloseTheWindow)
     cajas.Espera("Error 13: Type mismatch", Icono::Critico);
     EXPECT_EQ(Abre({1}), nullptr);
     EXPECT_TRUE(menu && avance.ends_with(']') && !frmNewOndas::unica.Cargado());
+
+    store.Canales(1).Numero = "1";
+    store.FrecMuestreo = 0;
+    store.FrecMuestras(1) = 0;
+    v = Abre({1});
+    ASSERT_TRUE(v) << "no rate is needed before a cursor moves";
+    EXPECT_EQ(Texto("lblms", v), "0.000 ms");
+    cajas.Espera("Error 11: Division by zero", Icono::Critico);
+    Da<QScrollBar>("HScroll1", v)->setValue(9);
+    EXPECT_FALSE(frmTodoanalog::unica.Cargado());
 }
 
 /// Copies of a page, what the user does before each, and what the view is meanwhile.
