@@ -6,12 +6,12 @@
 #include <QPdfWriter>
 #include <QPolygonF>
 
-#include <cmath>
 #include <cstdio>
 
 #include "medir.h"
 #include "platform/forms/ImpresoraQt.h"
 #include "platform/vista.h"
+#include "registro.h"
 #include "ventana.h"
 #include "waves/forms/frmTodoanalog.h"
 #include "waves/forms/frmVerOndas.h"
@@ -22,27 +22,6 @@ namespace {
 using namespace veldix;
 
 constexpr int kCanales = 8, kMuestras = 32767, kRondas = 25, kPasos = 500;
-
-void Registro()
-{
-    store.RevisionCfg = "1991";
-    store.FrecLinea = 50;
-    store.FrecMuestras = Tabla1<std::int16_t>(1);
-    store.FrecMuestras(1) = 1600;
-    store.NumAnalog = store.NumCanalAnalog = kCanales;
-    store.Canales = Tabla1<FilaCanal>(kCanales);
-    store.Muestras = Tabla2<float>(kMuestras, kCanales);
-    for (int c = 1; c <= kCanales; ++c) {
-        store.Canales(c) = {std::to_string(c), "Canal " + std::to_string(c), "", "A"};
-        for (int i = 1; i <= kMuestras; ++i) {
-            const double falta = i > 13000 && i < 20000 ? 1.0 : 0.4;
-            store.Muestras(i, c) =
-                static_cast<float>(falta * (std::sin(i * 0.19635 + c) + 0.1 * std::sin(i * 1.3744)));
-        }
-    }
-    ReiniciaRegistro(store);
-    store.AnchoPantalla = 19200.0, store.AltoPantalla = 12000.0;
-}
 
 void Pinta()
 {
@@ -198,7 +177,7 @@ bool MideTodo()
 int main(int argc, char** argv)
 {
     const VentanaBanco ventana(argc, argv);
-    Registro();
+    PonRegistroLargo(kCanales);
     const bool iguales = MideTodo();
     return iguales ? 0 : 1;
 }

@@ -16,13 +16,13 @@ namespace veldix {
 namespace {
 
 /// A stretch of the line as it looks on the diagram.
-QPixmap MuestraColor(QRgb color)
+QPixmap MuestraColor(QRgb color, qreal razon)
 {
     constexpr int kGrueso = 3, kAncho = 20, kAlto = 11, kMargen = 2;
-    QPixmap muestra(kAncho, kAlto);
+    QPixmap muestra(QSize(kAncho, kAlto) * razon);
+    muestra.setDevicePixelRatio(razon);
     muestra.fill(QColor(kFondoDiagrama));
-    QPainter(&muestra).fillRect(kMargen, (kAlto - kGrueso) / 2, muestra.width() - 2 * kMargen, kGrueso,
-                                QColor(color));
+    QPainter(&muestra).fillRect(kMargen, (kAlto - kGrueso) / 2, kAncho - 2 * kMargen, kGrueso, QColor(color));
     return muestra;
 }
 
@@ -72,7 +72,7 @@ void VistaFasores::CreaTrazos()
     for (std::size_t i = 0; i < lineas_.size(); ++i) {
         lineas_[i] = new LineaLibre(kColoresFasor[i], papel_.lineas[i], Picture1);
         marcas_[i] = CreaEtiqueta(this, QString("Label%1").arg(i + 1));
-        marcas_[i]->setPixmap(MuestraColor(kColoresFasor[i]));
+        marcas_[i]->setPixmap(MuestraColor(kColoresFasor[i], devicePixelRatioF()));
         textos_[i] = CreaEtiqueta(this, papel_.textos[i]);
     }
 }

@@ -34,7 +34,7 @@ protected:
         QLabel::paintEvent(evento);
         if (!hasFocus()) return;
         QPainter pintor(this);
-        pintor.setPen(QPen(Qt::black, 2));
+        pintor.setPen(QPen(palette().color(foregroundRole()), 2));
         pintor.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 };

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "platform/forms/disposicion.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
@@ -82,6 +83,7 @@ void frmElecdig::Form_Load()
         if (g <= grupos) PonNombre(opcion, Q(store.GruposDig(g).Nombre));
     }
     (grupos > 0 ? static_cast<QWidget*>(optdg[0]) : cmdOK)->setFocus();
+    OrdenaTeclas({fmeDigital, Frame1, Frame3, cmdOK, cmdcancel});
     CentraSobre(*this, *escena.principal);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QTimerEvent>
 
@@ -13,6 +14,17 @@ BarraCursor::BarraCursor(const QString& nombre, const QString& accesible, QWidge
     setObjectName(nombre);
     setAccessibleName(accesible);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+/// Styles draw no focus on a scroll bar.
+void BarraCursor::paintEvent(QPaintEvent* evento)
+{
+    constexpr int kMarco = 2;
+    QScrollBar::paintEvent(evento);
+    if (!hasFocus()) return;
+    QPainter p(this);
+    p.setPen(QPen(palette().color(QPalette::Highlight), kMarco));
+    p.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 /// A scroll bar's own Up and Down run against its page keys.

@@ -13,6 +13,7 @@ public:
     BarraCursor(const QString& nombre, const QString& accesible, QWidget* padre);
 
 protected:
+    void paintEvent(QPaintEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void timerEvent(QTimerEvent* evento) override;

@@ -92,6 +92,7 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
     for (const Fila& f : filas_) {
         ++k;
         Pinta(f.lblpunt, k == ranuras.Activa());
+        f.grp->setAccessibleDescription(k == ranuras.Activa() ? "*" : "");
         if (const QString texto = Q(ranuras(k).texto); f.grp->text() != texto) {
             f.grp->setText(texto);
             f.grp->setCursorPosition(0);

@@ -93,7 +93,6 @@ LineaSobre* Lienzo::CreaLinea(QRgb color, const QString& nombre)
 {
     auto* linea = new LineaSobre(color, this);
     linea->setObjectName(nombre);
-    linea->setAccessibleName(nombre);
     return linea;
 }
 

@@ -9,6 +9,7 @@
 
 #include "platform/avisos.h"
 #include "platform/forms/Lienzo.h"
+#include "platform/forms/disposicion.h"
 #include "platform/forms/formulario.h"
 #include "platform/textos.h"
 
@@ -213,14 +214,14 @@ void Centra(QWidget& ventana)
 {
     const QScreen* pantalla = ventana.screen();
     if (!pantalla) return;
-    ventana.adjustSize();
+    if (!CabeEnPantalla(ventana)) ventana.adjustSize();
     const QRect libre = pantalla->availableGeometry();
     ventana.move(libre.center() - QPoint(ventana.width() / 2, ventana.height() / 2));
 }
 
 void CentraSobre(QWidget& ventana, const QWidget& otra)
 {
-    ventana.adjustSize();
+    if (!CabeEnPantalla(ventana)) ventana.adjustSize();
     const QPoint sitio = otra.mapToGlobal(QPoint(0, 0));
     ventana.move(sitio.x() + (otra.width() - ventana.width()) / 2,
                  sitio.y() + (otra.height() - ventana.height()) / 2);

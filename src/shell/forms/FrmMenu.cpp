@@ -36,6 +36,7 @@ FrmMenu::FrmMenu() : Vista(etiqueta::kMenu)
     // The background of the other windows: no frame, so that it is neither moved nor closed.
     Ventana().setWindowFlags(Qt::FramelessWindowHint);
     setAutoFillBackground(true);
+    Ventana().setAccessibleName("VELDIX");
     Image1 = new Emblema(this);
     Image1->setObjectName("Image1");
     Label1 = CreaTitulo(this, "Label1", "VELDIX", 2.2);

@@ -69,7 +69,7 @@ void frmTrifasic::CreaGrupo(int g)
     grupo.ListTrif = new QListWidget(grupo.fmetrif);
     grupo.ListTrif->setObjectName("ListTrif" + numero);
     grupo.ListTrif->setMinimumWidth(grupo.ListTrif->fontMetrics().averageCharWidth() * 30);
-    grupo.filas = new FilasRanura(kFases, grupo.fmetrif, {.juego = numero});
+    grupo.filas = new FilasRanura(kFases, grupo.fmetrif, {.juego = numero, .nombre = grupo.fmetrif->title()});
     DisponeGrupo(grupo, g);
 }
 
@@ -82,11 +82,14 @@ void frmTrifasic::DisponeGrupo(Grupo& grupo, int g)
     nombre->addWidget(grupo.nbTrif, 3);
     nombre->addWidget(CreaRotulo(grupo.txtFactor, "Label3" + numero, Rotulo(40, "Factor:")));
     nombre->addWidget(grupo.txtFactor, 1);
+    for (QWidget* campo : {grupo.nbTrif, grupo.txtFactor})
+        campo->setAccessibleName(grupo.fmetrif->title() + ", " + campo->accessibleName());
     auto* rejilla = new QGridLayout(grupo.fmetrif);
     rejilla->addLayout(nombre, 0, 0, 1, 2);
     rejilla->addWidget(CreaRotulo(grupo.ListTrif, "Label4" + numero, Rotulo(41, "Canales disponibles:")), 1,
                        0);
     rejilla->addWidget(CreaRotulo(grupo.filas, "Label5" + numero, Rotulo(42, "Fases del grupo:")), 1, 1);
+    grupo.ListTrif->setAccessibleName(grupo.fmetrif->title() + ", " + grupo.ListTrif->accessibleName());
     rejilla->addWidget(grupo.ListTrif, 2, 0);
     rejilla->addWidget(grupo.filas, 2, 1, Qt::AlignTop);
     rejilla->setColumnStretch(0, 1);

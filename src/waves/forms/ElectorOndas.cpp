@@ -18,9 +18,9 @@ ElectorOndas::ElectorOndas(const char* nombre, const char* marco, Ranuras ranura
     ConectaDobleClic(List1, this, &ElectorOndas::List1_DblClick);
 }
 
-FilasRanura* ElectorOndas::CreaFilas(int cuantas, QWidget* padre, int primera)
+FilasRanura* ElectorOndas::CreaFilas(int cuantas, QGroupBox* marco, int primera)
 {
-    auto* filas = new FilasRanura(cuantas, padre, {.primera = primera});
+    auto* filas = new FilasRanura(cuantas, marco, {.primera = primera, .nombre = marco->title()});
     Conecta(filas, &FilasRanura::Click, this, &ElectorOndas::grp_Click);
     Conecta(filas, &FilasRanura::DblClick, this, &ElectorOndas::grp_DblClick);
     Conecta(filas, &FilasRanura::Change, this, &ElectorOndas::grp_Change);

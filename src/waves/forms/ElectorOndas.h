@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGroupBox>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -31,7 +32,7 @@ protected:
     virtual void Deshace() = 0;
 
     /// A row of slots that this form shows, `cuantas` from `primera` on.
-    FilasRanura* CreaFilas(int cuantas, QWidget* padre, int primera = 1);
+    FilasRanura* CreaFilas(int cuantas, QGroupBox* marco, int primera = 1);
     /// The record's channels in List1, and its first line current.
     void LlenaLista();
     /// Pointers back, a box, and the dialog stands.

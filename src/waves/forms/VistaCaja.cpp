@@ -1,5 +1,7 @@
 #include "waves/forms/VistaCaja.h"
 
+#include <QKeyEvent>
+
 #include "platform/forms/escena.h"
 #include "platform/textos.h"
 #include "waves/colores.h"
@@ -15,6 +17,7 @@ VistaCaja::VistaCaja(const Papel& papel, Icono cajaEstrecha) : VistaOndas(papel)
     Conecta(plot_, &Lienzo::RatonBaja, this, &VistaCaja::Plot_MouseDown);
     Conecta(plot_, &Lienzo::RatonMueve, this, &VistaCaja::Plot_MouseMove);
     Conecta(plot_, &Lienzo::RatonSube, this, &VistaCaja::Plot_MouseUp);
+    plot_->installEventFilter(this);
 }
 
 void VistaCaja::Reinicia()
@@ -98,6 +101,34 @@ void VistaCaja::cmdzoom_Click()
     punteroPropio_ = true;
     zoom_.ArrastrandoCaja = false;
     zoom_.ZoomPendiente = true;
+    plot_->setFocus();
+}
+
+bool VistaCaja::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (objeto == plot_ && evento->type() == QEvent::KeyPress) {
+        bool tomada = false;
+        Atrapa(this, [&] { tomada = TeclaPlot(static_cast<QKeyEvent*>(evento)->key()); });
+        if (tomada) return true;
+    }
+    return VistaOndas::eventFilter(objeto, evento);
+}
+
+/// On an armed plot Enter draws the box from cursor to cursor over the plot's height, and Escape disarms it.
+bool VistaCaja::TeclaPlot(int tecla)
+{
+    const bool entra = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+    if (!punteroPropio_ || zoom_.ArrastrandoCaja || (!entra && tecla != Qt::Key_Escape)) return false;
+    if (entra) {
+        const double x = XCursor(Cursor2), y = plot_->Alto();
+        Plot_MouseDown(XCursor(Cursor1), 0.0);
+        Plot_MouseMove(x, y);
+        Plot_MouseUp(x, y);
+    } else {
+        PonPuntero(plot_, Puntero::Normal);
+        punteroPropio_ = false;
+    }
+    return true;
 }
 
 void VistaCaja::Plot_MouseDown(double x, double y)

@@ -8,7 +8,7 @@
 
 namespace veldix {
 
-/// The views whose zoom is a box drawn with the mouse.
+/// The views whose zoom is a box, drawn with the mouse or taken between the cursors by Enter.
 class VistaCaja : public VistaOndas {
     Q_OBJECT
 
@@ -29,6 +29,7 @@ protected:
     void Repinta() override;
     double XCursor(float cursor) const override;
     void cmdzoom_Click() override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     /// The history, the bars and the cursors of the whole record, for the plot's size.
     void Reinicia();
@@ -45,6 +46,7 @@ private:
     void Plot_MouseDown(double x, double y);
     void Plot_MouseMove(double x, double y);
     void Plot_MouseUp(double x, double y);
+    bool TeclaPlot(int tecla);
     void MuestraCaja(bool visible);
     void PonCaja(double x, double y);
     void PintaTramo();

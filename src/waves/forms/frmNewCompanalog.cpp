@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/forms/disposicion.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/textos.h"
@@ -29,6 +30,8 @@ frmNewCompanalog::frmNewCompanalog()
     LlenaLista();
     Conecta(cmdOK, &QPushButton::clicked, this, &frmNewCompanalog::cmdOK_Click);
     Conecta(cmdcancel, &QPushButton::clicked, this, &frmNewCompanalog::cmdcancel_Click);
+    OrdenaTeclas({List1, findChild<QWidget*>("Frame1"), findChild<QWidget*>("Frame2"),
+                  findChild<QWidget*>("Frame3"), referencia_, cmdOK, cmdcancel});
     Centra(*this);
 }
 

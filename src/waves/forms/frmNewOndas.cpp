@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "platform/enteros.h"
+#include "platform/forms/disposicion.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
@@ -33,6 +34,7 @@ frmNewOndas::frmNewOndas() : ElectorOndas("frmNewOndas", "Frame3", Ranuras(kRanu
     Conecta(cmdOK, &QPushButton::clicked, this, &frmNewOndas::cmdOK_Click);
     Conecta(cmdtodo, &QPushButton::clicked, this, &frmNewOndas::cmdtodo_Click);
     Conecta(cmdSalir, &QPushButton::clicked, this, &frmNewOndas::cmdSalir_Click);
+    OrdenaTeclas({List1, Frame2, referencia_, cmdOK, cmdtodo, cmdSalir});
     Centra(*this);
 }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QWidget>
+
+#include <initializer_list>
+
+namespace veldix {
+
+/// The order in which the tab key goes through a form: block after block, within a block the controls as they
+/// were made.
+void OrdenaTeclas(std::initializer_list<QWidget*> bloques);
+
+/// A form that is larger than its screen, as on a small one with large letters, becomes scrolled. Returns
+/// whether it had to; its layout then is that of a widget inside.
+bool CabeEnPantalla(QWidget& ventana);
+
+}  // namespace veldix
