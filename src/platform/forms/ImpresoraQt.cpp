@@ -25,14 +25,39 @@ double DeMilimetros(double mm)
     return std::round(mm * kTwipsPorPulgada / kMilimetrosPorPulgada);
 }
 
+/// Farther off the page, in twips, the toolkit's whole numbers of a PDF overflow.
+constexpr double kLejos = 1e6;
+
+bool EstaLejos(const QPointF& p)
+{
+    return std::abs(p.x()) > kLejos || std::abs(p.y()) > kLejos;
+}
+
+/// Cuts a segment to where it can be drawn (Liang and Barsky); false where nothing is left.
+bool TraeCerca(QLineF& linea)
+{
+    const QPointF a = linea.p1(), d = linea.p2() - a;
+    double desde = 0.0, hasta = 1.0;
+    const double lados[4][2] = {
+        {-d.x(), a.x() + kLejos}, {d.x(), kLejos - a.x()}, {-d.y(), a.y() + kLejos}, {d.y(), kLejos - a.y()}};
+    for (const auto& [avance, espacio] : lados) {
+        if (avance == 0.0 && espacio < 0.0) return false;
+        if (avance < 0.0) desde = std::max(desde, espacio / avance);
+        if (avance > 0.0) hasta = std::min(hasta, espacio / avance);
+    }
+    if (desde > hasta) return false;
+    linea = {a + desde * d, a + hasta * d};
+    return true;
+}
+
 }  // namespace
 
-/// The least margins that the paper allows put the origin at the printable corner.
+/// The least margins that the paper allows put the origin at the printable corner. The toolkit does not turn
+/// them with the paper, so a turned one takes the largest all round.
 ImpresoraQt::ImpresoraQt(QPagedPaintDevice& dispositivo, ModoColor color, std::function<void()> anula)
     : dispositivo_(dispositivo), color_(color), anula_(std::move(anula))
 {
-    dispositivo_.setPageMargins(dispositivo_.pageLayout().minimumMargins(),
-                                dispositivo_.pageLayout().units());
+    PonMargenes();
     const double puntos = QGuiApplication::font().pointSizeF();
     if (puntos > 0.0) Letra.puntos = puntos;
 }
@@ -52,6 +77,17 @@ void ImpresoraQt::PonSentido(Orientacion o)
 {
     dispositivo_.setPageOrientation(o == Orientacion::Horizontal ? QPageLayout::Landscape
                                                                  : QPageLayout::Portrait);
+    PonMargenes();
+}
+
+void ImpresoraQt::PonMargenes()
+{
+    QMarginsF m = dispositivo_.pageLayout().minimumMargins();
+    if (Sentido() == Orientacion::Horizontal) {
+        const double mayor = std::max({m.left(), m.top(), m.right(), m.bottom()});
+        m = {mayor, mayor, mayor, mayor};
+    }
+    dispositivo_.setPageMargins(m, dispositivo_.pageLayout().units());
 }
 
 double ImpresoraQt::Ancho() const
@@ -103,7 +139,12 @@ void ImpresoraQt::Poligonal(std::span<const double> xs, std::span<const double> 
     pluma.setWidthF(Grosor * kTwipsPorPulgada / kGruesosPorPulgada);
     pluma.setJoinStyle(Qt::RoundJoin);
     Pintor().setPen(pluma);
-    Pintor().drawPolyline(puntos);
+    if (std::none_of(puntos.begin(), puntos.end(), EstaLejos)) {
+        Pintor().drawPolyline(puntos);
+        return;
+    }
+    for (qsizetype i = 0; i + 1 < puntos.size(); ++i)
+        if (QLineF linea(puntos[i], puntos[i + 1]); TraeCerca(linea)) Pintor().drawLine(linea);
 }
 
 void ImpresoraQt::Caja(double x1, double y1, double x2, double y2, std::uint32_t color)

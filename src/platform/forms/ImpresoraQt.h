@@ -37,6 +37,7 @@ protected:
     void Escribe(double x, double y, const std::string& texto) override;
 
 private:
+    void PonMargenes();
     QFont Fuente() const;
     QPainter& Pintor();
 

@@ -140,6 +140,7 @@ void frmNewOndas::cmdtodo_Click()
     if (cuenta == 0 || cuenta > kRanuras) {
         show();
         Rechaza(cuenta == 0 ? 82 : 146, cuenta == 0 ? Icono::Informacion : Icono::Ninguno);
+        activateWindow();  // the box was that of the main window
         return;
     }
     EmpiezaApertura(5);

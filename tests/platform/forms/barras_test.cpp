@@ -1,4 +1,6 @@
+#include <QBuffer>
 #include <QEventLoop>
+#include <QPdfWriter>
 #include <QTest>
 #include <QTimer>
 
@@ -6,6 +8,7 @@
 #include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/EtiquetasCorridas.h"
 #include "platform/forms/ImpresoraPdf.h"
+#include "platform/forms/ImpresoraQt.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "support/soporte.h"
@@ -126,6 +129,34 @@ TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
     EXPECT_EQ(prueba::NumeroDeError([&] { e.Pon(3, ""); }), error::kSubindice);
     e.PonEntero(2, "<b>x");
     EXPECT_EQ(otra->toolTip(), "<qt>&lt;b&gt;x</qt>") << "a name that the toolkit reads as its mark-up";
+}
+
+/// The points of a curve zoomed as deep as the history goes, and the number of its last one on the page.
+TEST(ImpresoraPdf, ACurveFarOffThePageBreaksTheFile)
+{
+    const auto altos = [](double lejos) {
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        QPdfWriter escritor(&pdf);
+        escritor.setResolution(1200);
+        ImpresoraQt impresora(escritor, ModoColor::Color);
+        const double xs[] = {1000.0, 2000.0, 3000.0, 4000.0}, ys[] = {5000.0, lejos, -lejos, 5000.0};
+        impresora.PonRecorte(0.0, 0.0, 10000.0, 10000.0);
+        impresora.Poligonal(xs, ys, 0);
+        impresora.Termina();
+        const QByteArray datos = pdf.data();
+        const qsizetype desde = datos.indexOf("stream\n") + 7;
+        QByteArray trozo = datos.mid(desde, datos.indexOf("endstream", desde) - desde);
+        trozo.prepend(QByteArray::fromHex("00FFFFFF"));  // the size that qUncompress wants, unknown
+        const QList<QByteArray> palabras = qUncompress(trozo).simplified().split(' ');
+        double mayor = 0.0;
+        for (const QByteArray& palabra : palabras)
+            mayor = std::max(mayor, std::abs(palabra.toDouble()));
+        return std::pair{mayor, palabras.count("l")};
+    };
+    const auto [mayor, lineas] = altos(1e12);
+    EXPECT_LT(mayor, 2e6);
+    EXPECT_EQ(lineas, altos(9000.0).second);
 }
 
 TEST(ImpresoraPdf, AFileIsWholeOrAsItWasAndItsPagesAreLandscape)
