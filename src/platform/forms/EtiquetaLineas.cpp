@@ -27,6 +27,13 @@ QStringList Parte(const QString& texto, const QFont& letra, int ancho)
     return lineas;
 }
 
+/// Lines of a place; less than one counts as one.
+int Caben(const QFontMetrics& metrica, int alto)
+{
+    constexpr int kHolgura = 2;  // pixels of the letters' height that hold no letter
+    return qMax(1, (alto + kHolgura) / metrica.height());
+}
+
 QString PalabraMasAncha(const QString& texto, const QFontMetrics& metrica)
 {
     QString mayor;
@@ -58,11 +65,10 @@ QString UltimasPalabras(const QString& texto, const QFontMetrics& metrica, int a
 
 QStringList LineasVisibles(const QString& texto, const QFont& letra, QSize lugar, bool ultimas)
 {
-    constexpr int kHolgura = 2;  // pixels of the letters' height that hold no letter
     if (lugar.width() <= 0) return {};
     const QFontMetrics metrica(letra);
-    const int caben = (lugar.height() + kHolgura) / metrica.height();
-    if (caben <= 1)
+    const int caben = Caben(metrica, lugar.height());
+    if (caben == 1)
         return {ultimas ? UltimasPalabras(texto, metrica, lugar.width())
                         : metrica.elidedText(texto, Qt::ElideRight, lugar.width())};
     const QStringList lineas = Parte(texto, letra, lugar.width());
@@ -95,7 +101,11 @@ void EtiquetaLineas::paintEvent(QPaintEvent* /*evento*/)
     const QRect lugar = contentsRect();
     QFont letra = font();
     letra.setStretch(anchoLetra_);
-    anchoLetra_ = AnchoLetra(letra, PalabraMasAncha(text(), QFontMetrics(letra)), lugar.width());
+    const QFontMetrics metrica(letra);
+    // In a single line the value is to stand beside its units.
+    const QString entero =
+        Caben(metrica, lugar.height()) == 1 ? text().section(' ', -2) : PalabraMasAncha(text(), metrica);
+    anchoLetra_ = AnchoLetra(letra, entero, lugar.width());
     letra.setStretch(anchoLetra_);
     p.setFont(letra);
     p.setPen(palette().color(foregroundRole()));
