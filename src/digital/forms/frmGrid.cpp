@@ -145,7 +145,7 @@ void frmGrid::grp_Sale(int k, int paso, int j)
 
 void frmGrid::cmdOK_Click()
 {
-    MuestraMenu();
+    escena.muestraMenu();
     Ventana().hide();
     PonPunteros(this, Puntero::Propio);
     store.CanalRef = static_cast<std::int16_t>(Frame1->CanalRef());

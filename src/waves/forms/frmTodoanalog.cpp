@@ -100,10 +100,10 @@ void frmTodoanalog::Rehace()
     PreparaBarras();
     PonBarras(1, 1, ultima_);
     bandas_ = ColocaBandas(store, canales_, static_cast<float>(plot_->Alto()));
-    PonGasolinoOndas(20);
+    escena.ponGasolinoOndas(20);
     PintaMarco();
     Curvas(1, ultima_, EscalaCurva);
-    PonGasolinoOndas(40);
+    escena.ponGasolinoOndas(40);
     Cursor1 = Cursor2 = 1.0F;
     PonLinea(linea1_, XCursor(Cursor1));
     PonLinea(linea2_, XCursor(Cursor2));
@@ -197,7 +197,7 @@ void frmTodoanalog::lblet_Click(int k)
 
 void frmTodoanalog::Form_Unload()
 {
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 }  // namespace veldix

@@ -248,7 +248,7 @@ void frmVerCmpang::Form_Unload()
         store.MatrizComp(fila_, store.NumAnalog + 1) = 0;
     });
     --store.NumVentanasComp;
-    if (store.NumVentanasComp == 0) MuestraMenu();
+    if (store.NumVentanasComp == 0) escena.muestraMenu();
 }
 
 }  // namespace veldix

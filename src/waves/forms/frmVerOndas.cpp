@@ -146,7 +146,7 @@ void frmVerOndas::Form_Unload()
     Intenta([this] {
         if (store.VentanaOnda(Canal_) == this) store.VentanaOnda(Canal_) = nullptr;
     });
-    if (store.NumVentanasOnda == 0) MuestraMenu();
+    if (store.NumVentanasOnda == 0) escena.muestraMenu();
 }
 
 }  // namespace veldix
