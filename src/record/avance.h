@@ -30,9 +30,8 @@ public:
     void Muestra()
     {
         if (cuenta_ == paso_) {
-            Intenta([] {
-                ganchosRegistro.LlenarGasolino(true, 1);
-            });  // a gauge that fails does not cut the record
+            // A gauge that fails does not cut the record.
+            Intenta([] { ganchosRegistro.LlenarGasolino(true, 1); });
             cuenta_ = 0;
         } else {
             ++cuenta_;

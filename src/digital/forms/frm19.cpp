@@ -33,10 +33,6 @@ frm19::frm19()
                     kMargenesDigital)
 {
     CreaControles();
-    Conecta(analogicas_, &EtiquetasCorridas::Change, this, &frm19::HScroll_Analog_Change);
-    Conecta(analogicas_, &EtiquetasCorridas::Click, this, &frm19::analogicas_Click);
-    Conecta(label, &EtiquetasCorridas::Change, this, &frm19::HScroll_Nombres_Change);
-    Conecta(label, &EtiquetasCorridas::Click, this, &frm19::label_Click);
     Atrapa(this, [this] { Form_Load(); });
 }
 
@@ -244,26 +240,6 @@ std::optional<HojaOndas> frm19::Hoja(Impresora& impresora)
 {
     return HojaDigital(store, impresora, {plot_->Ancho(), plot_->Alto(), tramo_, filas_},
                        {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
-}
-
-void frm19::HScroll_Analog_Change()
-{
-    analogicas_->Corre();
-}
-
-void frm19::HScroll_Nombres_Change()
-{
-    label->Corre();
-}
-
-void frm19::analogicas_Click(int k)
-{
-    analogicas_->Restaura(k);
-}
-
-void frm19::label_Click(int n)
-{
-    label->Restaura(n);
 }
 
 void frm19::Form_Unload()

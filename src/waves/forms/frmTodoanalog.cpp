@@ -24,8 +24,6 @@ frmTodoanalog::frmTodoanalog()
                     kMargenesBandas)
 {
     CreaControles();
-    Conecta(lblet, &EtiquetasCorridas::Change, this, &frmTodoanalog::HScroll_Nombres_Change);
-    Conecta(lblet, &EtiquetasCorridas::Click, this, &frmTodoanalog::lblet_Click);
     Atrapa(this, [this] { Form_Load(); });
 }
 
@@ -183,16 +181,6 @@ std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)
     return HojaDeTodo(store, impresora, bandas_, zoom_.Fila(zoom_.NivelZoom),
                       static_cast<float>(plot_->Alto()),
                       {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
-}
-
-void frmTodoanalog::HScroll_Nombres_Change()
-{
-    lblet->Corre();
-}
-
-void frmTodoanalog::lblet_Click(int k)
-{
-    lblet->Restaura(k);
 }
 
 void frmTodoanalog::Form_Unload()

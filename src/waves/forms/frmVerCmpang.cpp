@@ -41,10 +41,6 @@ frmVerCmpang::frmVerCmpang()
                 Icono::Informacion)
 {
     CreaControles();
-    Conecta(lblam, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Amar_Change);
-    Conecta(lblci, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Cian_Change);
-    Conecta(lblam, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblam_Click);
-    Conecta(lblci, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblci_Click);
 }
 
 void frmVerCmpang::CreaControles()
@@ -221,23 +217,6 @@ std::optional<HojaOndas> frmVerCmpang::Hoja(Impresora& impresora)
     return HojaDeComposicion(store, impresora, canales_, zoom_.Pila(zoom_.NivelZoom + 1), EscalaY,
                              store.NumVentanasComp,
                              {U(windowTitle()), Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
-}
-
-void frmVerCmpang::HScroll_Amar_Change()
-{
-    lblam->Corre();
-}
-void frmVerCmpang::HScroll_Cian_Change()
-{
-    lblci->Corre();
-}
-void frmVerCmpang::lblam_Click(int k)
-{
-    lblam->Restaura(k);
-}
-void frmVerCmpang::lblci_Click(int k)
-{
-    lblci->Restaura(k);
 }
 
 void frmVerCmpang::Form_Unload()

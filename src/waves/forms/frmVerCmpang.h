@@ -41,10 +41,6 @@ private:
     void ColocaBotones(const LugaresComp& l);
     void Dibuja();
     void PonEtiquetas(EtiquetasCorridas* textos, int muestra);
-    void HScroll_Amar_Change();
-    void HScroll_Cian_Change();
-    void lblam_Click(int k);
-    void lblci_Click(int k);
 
     QLabel *marcamar, *marcaci, *Label1, *Label2;
     BarraCursor *HScroll_Amar, *HScroll_Cian;
