@@ -149,11 +149,7 @@ void frmGrid::cmdOK_Click()
     Ventana().hide();
     PonPunteros(this, Puntero::Propio);
     store.CanalRef = static_cast<std::int16_t>(Frame1->CanalRef());
-    store.NumDigVista = static_cast<std::int16_t>(eleccion_->CuentaElegidos());
-    if (store.NumDigVista > EleccionManual::kMayor) {
-        Rechaza();
-        return;
-    }
+    store.NumDigVista = static_cast<std::int16_t>(eleccion_->NumElegidos());
     AbreVista([this] { eleccion_->Entrega(); });
 }
 

@@ -22,7 +22,8 @@ public:
 
     /// Rows of `Canales` of the curves, in their order.
     const std::vector<int>& Canales() const { return canales_; }
-    /// Console colour of position `n`, 0 beyond the last.
+    /// Console colour of position `n`, 0 beyond the last: for whoever asks the window. The legend on paper
+    /// has the colours of the curves instead.
     int color(int n) const { return ColorLeyenda(n); }
 
 protected:
