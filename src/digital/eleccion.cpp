@@ -149,19 +149,10 @@ bool EleccionManual::DblClick(int k, int j)
     return true;
 }
 
-int EleccionManual::CuentaElegidos() const
-{
-    int cuenta = 0;
-    for (const GrupoElegible& g : grupos_)
-        for (int j = 1; j <= g.SelGrupo(0); ++j)
-            cuenta += g.SelGrupo(j);
-    return cuenta;
-}
-
 void EleccionManual::Entrega() const
 {
     s_.DigPrimera = s_.DigUltima = 0;
-    PonElegidos(s_, CuentaElegidos() + 1);
+    PonElegidos(s_, NumElegidos_ + 1);
     int n = 2, base = 0;
     for (const GrupoElegible& g : grupos_) {
         for (int j = 1; j <= g.SelGrupo(0); ++j)

@@ -41,6 +41,7 @@ public:
     /// Name and background of a channel.
     const std::string& Canal(int k, int j) const;
     Fondo FondoDe(int k, int j) const;
+    /// How many are chosen, never over kMayor.
     int NumElegidos() const { return NumElegidos_; }
 
     /// A click on a channel chooses it; one that is chosen stays so. False where nineteen are chosen.
@@ -48,8 +49,6 @@ public:
     /// A double click releases it. False where it was not chosen.
     bool DblClick(int k, int j);
 
-    /// How many are chosen, counted from the labels' own states.
-    int CuentaElegidos() const;
     /// Hands the choice over to the view, in the order of the groups.
     void Entrega() const;
 

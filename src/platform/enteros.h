@@ -23,16 +23,10 @@ inline std::int32_t Entero32(double valor)
     return static_cast<std::int32_t>(r);
 }
 
-/// Sum and difference in 16 bits. Raise 6.
+/// Sum in 16 bits. Raises 6.
 inline std::int16_t Suma16(std::int16_t a, std::int16_t b)
 {
     const int r = int{a} + int{b};
-    if (r < -32768 || r > 32767) Lanza(error::kDesbordamiento);
-    return static_cast<std::int16_t>(r);
-}
-inline std::int16_t Resta16(std::int16_t a, std::int16_t b)
-{
-    const int r = int{a} - int{b};
     if (r < -32768 || r > 32767) Lanza(error::kDesbordamiento);
     return static_cast<std::int16_t>(r);
 }

@@ -21,7 +21,6 @@ public:
     ~BloqueCeros();
 
     void* datos() const { return datos_; }
-    std::size_t octetos() const { return octetos_; }
 
 private:
     void* datos_ = nullptr;

@@ -48,7 +48,7 @@ private:
 
 }  // namespace detalle
 
-/// A one-dimensional table of indices `LBound()` to `UBound()`, 1-based unless said. A table that was never
+/// A one-dimensional table of indices 1 to `UBound()`, from another bound where said. A table that was never
 /// sized, or was erased, has no bounds: asking for one, or for an element outside them, raises 9.
 template <class T>
 class Tabla1 {
@@ -71,7 +71,6 @@ public:
     ~Tabla1() = default;
 
     bool Vacia() const { return !vale_; }
-    int LBound() const { return vale_ ? inferior_ : (Lanza(error::kSubindice), 0); }
     int UBound() const { return vale_ ? superior_ : (Lanza(error::kSubindice), 0); }
     /// Number of elements, 0 for a table without bounds.
     int Cuantos() const { return vale_ ? superior_ - inferior_ + 1 : 0; }
@@ -79,7 +78,7 @@ public:
     T& operator()(int i) { return elementos_.datos()[Sitio(i)]; }
     const T& operator()(int i) const { return elementos_.datos()[Sitio(i)]; }
 
-    /// The elements in order, the first at `LBound()`; for hot loops.
+    /// The elements in order, from the lower bound on; for hot loops.
     T* datos() { return elementos_.datos(); }
     const T* datos() const { return elementos_.datos(); }
     T* begin() { return datos(); }
@@ -139,16 +138,19 @@ public:
     ~Tabla2() = default;
 
     bool Vacia() const { return !vale_; }
-    /// Bounds of dimension 1 (rows) or 2 (columns).
-    int LBound(int dimension) const { return Limite(dimension, fila1_, col1_); }
-    int UBound(int dimension) const { return Limite(dimension, filaN_, colN_); }
+    /// Upper bound of dimension 1 (rows) or 2 (columns).
+    int UBound(int dimension) const
+    {
+        if (!vale_ || dimension < 1 || dimension > 2) Lanza(error::kSubindice);
+        return dimension == 1 ? filaN_ : colN_;
+    }
     int Filas() const { return vale_ ? filaN_ - fila1_ + 1 : 0; }
     int Columnas() const { return vale_ ? colN_ - col1_ + 1 : 0; }
 
     T& operator()(int f, int c) { return elementos_.datos()[Sitio(f, c)]; }
     const T& operator()(int f, int c) const { return elementos_.datos()[Sitio(f, c)]; }
 
-    /// The first element of row `f`; element k of the pointer is column `LBound(2)` + k. Raises 9.
+    /// The first element of row `f`; element k of the pointer is its column k, from 0. Raises 9.
     T* fila(int f) { return elementos_.datos() + Sitio(f, col1_); }
     const T* fila(int f) const { return elementos_.datos() + Sitio(f, col1_); }
 
@@ -166,11 +168,6 @@ private:
     {
         if (superior < inferior) Lanza(error::kSubindice);
         return static_cast<std::size_t>(static_cast<long long>(superior) - inferior + 1);
-    }
-    int Limite(int dimension, int deFilas, int deColumnas) const
-    {
-        if (!vale_ || dimension < 1 || dimension > 2) Lanza(error::kSubindice);
-        return dimension == 1 ? deFilas : deColumnas;
     }
     std::size_t Sitio(int f, int c) const
     {

@@ -99,13 +99,6 @@ std::string Mayusculas(std::string_view texto)
     return r;
 }
 
-std::string Minusculas(std::string_view texto)
-{
-    std::string r(texto);
-    std::transform(r.begin(), r.end(), r.begin(), Minuscula);
-    return r;
-}
-
 std::string UnaLinea(std::string_view texto)
 {
     std::string r = SinFinesDeLinea(texto);

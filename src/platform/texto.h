@@ -11,8 +11,6 @@ std::string_view Recorta(std::string_view texto);
 
 /// ASCII and Latin-1 letters in upper case, as many octets as before; other characters stay.
 std::string Mayusculas(std::string_view texto);
-/// ASCII letters in lower case.
-std::string Minusculas(std::string_view texto);
 
 /// Without CR, LF and NUL, so that it fits on a line of a file.
 std::string UnaLinea(std::string_view texto);

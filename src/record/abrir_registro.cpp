@@ -20,10 +20,10 @@ std::string SiExiste(const std::string& ruta)
 
 /// The gauge while a record opens; it goes however that ends.
 struct Gasolino {
-    Gasolino() { MuestraGasolino(); }
+    Gasolino() { ganchosRegistro.MuestraGasolino(); }
     ~Gasolino()
     {
-        Intenta([] { DescargaGasolino(); });
+        Intenta([] { ganchosRegistro.DescargaGasolino(); });
     }
     Gasolino(const Gasolino&) = delete;
     Gasolino& operator=(const Gasolino&) = delete;
@@ -48,9 +48,9 @@ std::int16_t Rechaza(RecordStore& s)
 std::int16_t AbrirRegistro(RecordStore& s)
 {
     const Gasolino gasolino;
-    LlenarGasolino(true, 0);
+    ganchosRegistro.LlenarGasolino(true, 0);
     LeerCfg(s);
-    LlenarGasolino(true, 5);
+    ganchosRegistro.LlenarGasolino(true, 5);
     s.FormatoDat = Mayusculas(Recorta(s.FormatoDat));
     std::int16_t resultado = -1;
     if (s.FormatoDat == "ASCII")
@@ -59,7 +59,7 @@ std::int16_t AbrirRegistro(RecordStore& s)
         resultado = LeerDatBin(s);
     else
         resultado = Rechaza(s);
-    if (resultado >= 0) EscribeSesion();
+    if (resultado >= 0) ganchosRegistro.EscribeSesion();
     return resultado;
 }
 

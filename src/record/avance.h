@@ -10,25 +10,17 @@ namespace veldix {
 /// What opening and converting a record ask of the rooms above. The shell fills these at start; without them
 /// they do nothing.
 struct GanchosRegistro {
-    std::function<void()> MuestraGasolino;   ///< shows the gauge
-    std::function<void()> DescargaGasolino;  ///< unloads it
-    std::function<void(bool relativo, std::int16_t valor)> LlenarGasolino;
-    std::function<void()> EscribeSesion;  ///< writes the session file
+    std::function<void()> MuestraGasolino = [] {};   ///< shows the gauge
+    std::function<void()> DescargaGasolino = [] {};  ///< unloads it
+    /// Moves the gauge by `valor` points, or to it where not `relativo`; value 0 resets it.
+    std::function<void(bool relativo, std::int16_t valor)> LlenarGasolino = [](auto...) {};
+    std::function<void()> EscribeSesion = [] {};  ///< writes the session file
     /// The bar of a conversion: shows it with its maximum, moves it, unloads it.
-    std::function<void(int maximo)> MuestraGasolino2;
-    std::function<void(int valor)> PonGasolino2;
-    std::function<void()> DescargaGasolino2;
+    std::function<void(int maximo)> MuestraGasolino2 = [](int) {};
+    std::function<void(int valor)> PonGasolino2 = [](int) {};
+    std::function<void()> DescargaGasolino2 = [] {};
 };
 extern GanchosRegistro ganchosRegistro;
-
-void EscribeSesion();
-void MuestraGasolino();
-void DescargaGasolino();
-/// Moves the gauge by `valor` points, or to it where not `relativo`; value 0 resets it.
-void LlenarGasolino(bool relativo, std::int16_t valor);
-void MuestraGasolino2(int maximo);
-void PonGasolino2(int valor);
-void DescargaGasolino2();
 
 /// A gauge step for each stride + 1 of `muestras` samples, about 90 in all; the stride is a ninetieth of
 /// the samples, halves to even.
@@ -38,7 +30,8 @@ public:
     void Muestra()
     {
         if (cuenta_ == paso_) {
-            Intenta([] { LlenarGasolino(true, 1); });  // a gauge that fails does not cut the record
+            // A gauge that fails does not cut the record.
+            Intenta([] { ganchosRegistro.LlenarGasolino(true, 1); });
             cuenta_ = 0;
         } else {
             ++cuenta_;

@@ -100,11 +100,11 @@ void Vacia(Tabla2<T>& tabla)
 /// The bar of a conversion; it goes however that ends.
 class Gasolino2 {
 public:
-    explicit Gasolino2(int maximo) : maximo_(maximo) { MuestraGasolino2(maximo); }
+    explicit Gasolino2(int maximo) : maximo_(maximo) { ganchosRegistro.MuestraGasolino2(maximo); }
     ~Gasolino2()
     {
-        Intenta([&] { PonGasolino2(maximo_); });
-        Intenta([] { DescargaGasolino2(); });
+        Intenta([&] { ganchosRegistro.PonGasolino2(maximo_); });
+        Intenta([] { ganchosRegistro.DescargaGasolino2(); });
     }
     Gasolino2(const Gasolino2&) = delete;
     Gasolino2& operator=(const Gasolino2&) = delete;
@@ -178,7 +178,7 @@ void EscribeLineas(const RecordStore& s, FicheroNuevo& copia)
             copia.Escribe(trozo);
             trozo.clear();
         }
-        PonGasolino2(i);
+        ganchosRegistro.PonGasolino2(i);
     }
     copia.Escribe(trozo);
 }

@@ -135,7 +135,6 @@ TEST(Eleccion, ChoicesByHandKeepTheirLimitAndTheOrderOfTheGroups)
     EXPECT_TRUE(e.DblClick(1, 2) && e.DblClick(3, 12));
     EXPECT_TRUE(e.FondoDe(1, 2) == Fondo::Cambia && e.FondoDe(1, 3) == Fondo::Elegido);
     EXPECT_EQ(e.NumElegidos(), 17);
-    EXPECT_EQ(e.CuentaElegidos(), 17);
     s.DigPrimera = 4;
     e.Entrega();
     EXPECT_EQ(s.DigElegidos(1).Numero, "18");

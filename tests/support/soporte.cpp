@@ -55,7 +55,6 @@ std::string ConFinales(std::string_view lineas, std::string_view fin)
 RespondeCajas::RespondeCajas()
 {
     PonCajas([this](const Caja& caja) {
-        vistas.push_back(caja);
         if (esperadas_.empty()) {
             ADD_FAILURE() << "unexpected box: " << caja.texto;
             return false;

@@ -48,7 +48,7 @@ int NumeroDeError(F&& f)
     return 0;
 }
 
-/// Answers the message boxes of a test from a queue and logs them. A box that was not expected fails the
+/// Answers the message boxes of a test from a queue. A box that was not expected fails the
 /// test, and so does one that never came.
 class RespondeCajas {
 public:
@@ -60,8 +60,6 @@ public:
     /// The next box must have this text, icon and buttons; `aceptar` is the answer.
     void Espera(std::string texto, Icono icono, Botones botones = Botones::Aceptar, bool aceptar = true);
     std::size_t Pendientes() const { return esperadas_.size(); }
-
-    std::vector<Caja> vistas;
 
 private:
     struct Esperada {

@@ -37,7 +37,7 @@ VistaFasores::VistaFasores(const Papel& papel) : Vista(papel.etiqueta), papel_(p
     ConectaControles();
     if (!Atrapa(this, [this] { Form_Load(); })) {
         PonPunteros(this, Puntero::Normal);
-        MuestraMenu();
+        escena.muestraMenu();
     }
 }
 
@@ -244,7 +244,7 @@ void VistaFasores::Recoloca()
 
 void VistaFasores::Form_Minimiza()
 {
-    OcultaMenu();
+    escena.ocultaMenu();
 }
 
 /// Of two views the last one to go brings the menu back.
@@ -255,7 +255,7 @@ void VistaFasores::Form_Unload()
         if (!(store.*papel_.otraCerrando)) return;
         store.FasesCerrando = store.SecuenciasCerrando = false;
     }
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 }  // namespace veldix

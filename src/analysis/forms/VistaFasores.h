@@ -40,7 +40,6 @@ public:
     };
 
     BarraCursor* Barra() const { return HScroll1; }
-    const Diagrama* Datos() const { return diagrama_.get(); }
 
     void TrasError() override { Descarga(); }
 

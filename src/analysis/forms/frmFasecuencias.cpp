@@ -131,7 +131,7 @@ void frmFasecuencias::AbreVistas(bool fases, bool secuencias)
     if (secuencias) frmSecuencias::unica.CargaNueva();
     VistaFasores* const vistas[] = {fases ? frmFases::unica.Cargado() : nullptr,
                                     secuencias ? frmSecuencias::unica.Cargado() : nullptr};
-    if (vistas[0] || vistas[1]) OcultaMenu();
+    if (vistas[0] || vistas[1]) escena.ocultaMenu();
     for (VistaFasores* vista : vistas) {
         if (!vista) continue;
         vista->Ventana().showNormal();
@@ -145,7 +145,7 @@ void frmFasecuencias::TrasError()
 {
     PonPunteros(this, Puntero::Normal);
     Descarga();
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 void frmFasecuencias::cmdSalir_Click()

@@ -21,7 +21,7 @@ public:
     /// Any error unloads the chooser.
     void TrasError() override
     {
-        DescargaGasolinoOndas();
+        escena.descargaGasolinoOndas();
         this->Descarga();
     }
 
@@ -31,14 +31,14 @@ protected:
     void Form_Unload() override
     {
         PonPunteros(this, Puntero::Normal);
-        MuestraMenu();
+        escena.muestraMenu();
     }
     /// The gauge, and behind it the choice applied, the chooser gone and the view in its place.
     template <class Entrega>
     void AbreVista(Entrega&& entrega)
     {
-        MuestraGasolinoOndas(Q(Rotulo(286, "Preparando los canales digitales...")));
-        PonGasolinoOndas(10);
+        escena.muestraGasolinoOndas(Q(Rotulo(286, "Preparando los canales digitales...")));
+        escena.ponGasolinoOndas(10);
         entrega();
         Frame3->Aplica();
         this->Descarga();

@@ -33,10 +33,6 @@ frm19::frm19()
                     kMargenesDigital)
 {
     CreaControles();
-    Conecta(analogicas_, &EtiquetasCorridas::Change, this, &frm19::HScroll_Analog_Change);
-    Conecta(analogicas_, &EtiquetasCorridas::Click, this, &frm19::analogicas_Click);
-    Conecta(label, &EtiquetasCorridas::Change, this, &frm19::HScroll_Nombres_Change);
-    Conecta(label, &EtiquetasCorridas::Click, this, &frm19::label_Click);
     Atrapa(this, [this] { Form_Load(); });
 }
 
@@ -44,7 +40,7 @@ void frm19::Abre()
 {
     PonPuntero(escena.principal, Puntero::Propio);
     unica.CargaNueva();
-    DescargaGasolinoOndas();
+    escena.descargaGasolinoOndas();
     if (frm19* vista = unica.Cargado()) vista->Presenta(vista->Plot());
     PonPuntero(escena.principal, Puntero::Normal);
 }
@@ -74,7 +70,7 @@ void frm19::CreaControles()
 
 void frm19::Form_Load()
 {
-    PonGasolinoOndas(20);
+    escena.ponGasolinoOndas(20);
     setWindowTitle(Q(Rotulo(47, "Canales Digitales ") + (EnGrupo(store) ? store.NombreGrupoDig : "")));
     plot_->setAccessibleName(windowTitle());
     PreparaBarras();
@@ -83,7 +79,7 @@ void frm19::Form_Load()
     const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
     Coloca(0.0, 0.0, vista.ancho, vista.alto);
     Rehace();
-    PonGasolinoOndas(100);
+    escena.ponGasolinoOndas(100);
     Activa = true;
 }
 
@@ -179,9 +175,9 @@ void frm19::Rehace()
     Cursor1 = Cursor2 = 1.0F;
     PintaEjes();
     PintaReferencia();
-    PonGasolinoOndas(50);
+    escena.ponGasolinoOndas(50);
     PintaFilas();
-    PonGasolinoOndas(70);
+    escena.ponGasolinoOndas(70);
     for (LineaSobre* linea : {linea1_, linea2_})
         PonLinea(linea, XCursor(1.0F));
 }
@@ -246,29 +242,9 @@ std::optional<HojaOndas> frm19::Hoja(Impresora& impresora)
                        {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
 }
 
-void frm19::HScroll_Analog_Change()
-{
-    analogicas_->Corre();
-}
-
-void frm19::HScroll_Nombres_Change()
-{
-    label->Corre();
-}
-
-void frm19::analogicas_Click(int k)
-{
-    analogicas_->Restaura(k);
-}
-
-void frm19::label_Click(int n)
-{
-    label->Restaura(n);
-}
-
 void frm19::Form_Unload()
 {
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 }  // namespace veldix

@@ -41,10 +41,6 @@ private:
     void PintaEjes();
     void PintaReferencia();
     void PintaFilas();
-    void HScroll_Analog_Change();
-    void HScroll_Nombres_Change();
-    void analogicas_Click(int k);
-    void label_Click(int n);
 
     EtiquetasCorridas *label, *analogicas_;  ///< the latter `lblanalog`, `lblamar`, `lblcian`
     BarraCursor *HScroll_Nombres, *HScroll_Analog;

@@ -145,15 +145,11 @@ void frmGrid::grp_Sale(int k, int paso, int j)
 
 void frmGrid::cmdOK_Click()
 {
-    MuestraMenu();
+    escena.muestraMenu();
     Ventana().hide();
     PonPunteros(this, Puntero::Propio);
     store.CanalRef = static_cast<std::int16_t>(Frame1->CanalRef());
-    store.NumDigVista = static_cast<std::int16_t>(eleccion_->CuentaElegidos());
-    if (store.NumDigVista > EleccionManual::kMayor) {
-        Rechaza();
-        return;
-    }
+    store.NumDigVista = static_cast<std::int16_t>(eleccion_->NumElegidos());
     AbreVista([this] { eleccion_->Entrega(); });
 }
 

@@ -7,17 +7,18 @@
 #include "platform/errores.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
+#include "platform/forms/formulario.h"
 #include "platform/texto.h"
 
 namespace veldix {
 
-EtiquetasCorridas::EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, QObject* padre)
-    : QObject(padre), etiquetas_(std::move(etiquetas)), nombres_(etiquetas_.size()), barra_(barra)
+EtiquetasCorridas::EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, Formulario* form)
+    : QObject(form), etiquetas_(std::move(etiquetas)), nombres_(etiquetas_.size()), barra_(barra), form_(form)
 {
     for (QLabel* etiqueta : etiquetas_)
         etiqueta->installEventFilter(this);
     barra_->setRange(0, 0);
-    connect(barra_, &QScrollBar::valueChanged, this, [this] { Q_EMIT Change(); });
+    Conecta(barra_, &QScrollBar::valueChanged, form_, [this](Formulario*) { Corre(); });
 }
 
 std::size_t EtiquetasCorridas::Sitio(int k) const
@@ -96,8 +97,9 @@ bool EtiquetasCorridas::eventFilter(QObject* objeto, QEvent* evento)
     const auto* raton = static_cast<QMouseEvent*>(evento);
     const auto sitio = std::find(etiquetas_.begin(), etiquetas_.end(), objeto);
     if (raton->button() != Qt::LeftButton || sitio == etiquetas_.end()) return false;
-    if ((*sitio)->isEnabled() && (*sitio)->rect().contains(raton->position().toPoint()))
-        Q_EMIT Click(static_cast<int>(sitio - etiquetas_.begin()) + 1);
+    const bool dentro = (*sitio)->isEnabled() && (*sitio)->rect().contains(raton->position().toPoint());
+    if (dentro && !form_->Descargado())
+        Atrapa(form_, [&] { Restaura(static_cast<int>(sitio - etiquetas_.begin()) + 1); });
     return false;
 }
 

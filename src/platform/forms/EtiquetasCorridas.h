@@ -8,12 +8,14 @@
 
 namespace veldix {
 
-/// Labels whose texts are longer than they, read sideways with a bar. Labels count from 1.
-class EtiquetasCorridas : public QObject {
-    Q_OBJECT
+class Formulario;
 
+/// Labels whose texts are longer than they, read sideways with a bar: all run with it, one that is clicked
+/// shows its whole text again. They belong to a form, whose events these are, trapped as Conecta does.
+/// Labels count from 1.
+class EtiquetasCorridas : public QObject {
 public:
-    EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, QObject* padre);
+    EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, Formulario* form);
 
     /// Shows a text from its first character on. Raises 9.
     void Pon(int k, const std::string& texto);
@@ -29,21 +31,13 @@ public:
     /// Raises 9.
     QLabel* Etiqueta(int k) const;
 
-Q_SIGNALS:
-    /// A label was clicked, 1 to Cuantas.
-    void Click(int k);
-    /// The bar was moved.
-    void Change();
-
-public:
-    /// All labels from the bar's value on; one label from its first character on. Raise 9.
-    void Corre();
-    void Restaura(int k);
-
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
+    /// All labels from the bar's value on; one label from its first character on. Raise 9.
+    void Corre();
+    void Restaura(int k);
     /// Labels in lines (EtiquetaLineas) show the beginning of a text, or the end with the value.
     void MuestraPrincipio(int k, bool principio);
     std::size_t Sitio(int k) const;
@@ -52,6 +46,7 @@ private:
     std::vector<QLabel*> etiquetas_;
     std::vector<std::string> nombres_;
     QScrollBar* barra_;
+    Formulario* form_;
 };
 
 }  // namespace veldix

@@ -60,8 +60,7 @@ public:
     using QObject::QObject;
     bool eventFilter(QObject* receptor, QEvent* evento) override
     {
-        if (evento->type() != QEvent::KeyPress || !escena.teclaSalir || QApplication::activeModalWidget())
-            return false;
+        if (evento->type() != QEvent::KeyPress || QApplication::activeModalWidget()) return false;
         auto* widget = qobject_cast<QWidget*>(receptor);
         Formulario* form = widget ? FormularioDe(widget) : nullptr;
         if (!form) return false;
@@ -104,66 +103,6 @@ void TodosNormales()
 }
 
 }  // namespace
-
-void MuestraMenu()
-{
-    if (escena.muestraMenu) escena.muestraMenu();
-}
-
-void OcultaMenu()
-{
-    if (escena.ocultaMenu) escena.ocultaMenu();
-}
-
-void LeeDirectoriosAjustes()
-{
-    if (escena.leeDirectorios) escena.leeDirectorios();
-}
-
-void DescargaSelectores()
-{
-    if (escena.descargaSelectores) escena.descargaSelectores();
-}
-
-void ActivaOrdenesPlantilla()
-{
-    if (escena.activaPlantilla) escena.activaPlantilla();
-}
-
-void ActualizaTools()
-{
-    if (escena.actualizaTools) escena.actualizaTools();
-}
-
-void MuestraGasolinoOndas(const QString& titulo)
-{
-    if (escena.muestraGasolinoOndas) escena.muestraGasolinoOndas(titulo);
-}
-
-void PonGasolinoOndas(int valor)
-{
-    if (escena.ponGasolinoOndas) escena.ponGasolinoOndas(valor);
-}
-
-void DescargaGasolinoOndas()
-{
-    if (escena.descargaGasolinoOndas) escena.descargaGasolinoOndas();
-}
-
-void MuestraCancelar()
-{
-    if (escena.muestraCancelar) escena.muestraCancelar();
-}
-
-void DescargaCancelar()
-{
-    if (escena.descargaCancelar) escena.descargaCancelar();
-}
-
-void ActivaSalir(bool activa)
-{
-    if (escena.activaSalir) escena.activaSalir(activa);
-}
 
 void PonPuntero(QWidget* widget, Puntero puntero)
 {

@@ -13,39 +13,29 @@ namespace veldix {
 /// What forms ask of the main window and of the shell, which fills it at start. Members that are not filled
 /// do nothing.
 struct Escena {
-    QWidget* principal = nullptr;       ///< owner of choosers and dialogs
-    QMdiArea* area = nullptr;           ///< where the views stand
-    std::function<void()> muestraMenu;  ///< makes the menu visible and maximised
-    std::function<void()> ocultaMenu;
-    std::function<void()> leeDirectorios;  ///< takes the default folders from the settings; shows its error
-    std::function<void()> descargaSelectores;  ///< unloads the choosers: their channels are about to change
-    std::function<void()> activaPlantilla;     ///< the menu commands that need a template in force
+    QWidget* principal = nullptr;               ///< owner of choosers and dialogs
+    QMdiArea* area = nullptr;                   ///< where the views stand
+    std::function<void()> muestraMenu = [] {};  ///< makes the menu visible and maximised
+    std::function<void()> ocultaMenu = [] {};
+    /// Takes the default folders from the settings; shows its error.
+    std::function<void()> leeDirectorios = [] {};
+    /// Unloads the choosers: their channels are about to change.
+    std::function<void()> descargaSelectores = [] {};
+    std::function<void()> activaPlantilla = [] {};  ///< the menu commands that need a template in force
     /// The menu follows the tools of the settings (FrmMenu::ActivaAnalisis). Raises what reading them raises.
-    std::function<void()> actualizaTools;
-    std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir;  ///< true where it took the key
+    std::function<void()> ActualizaTools = [] {};
+    /// True where it took the key.
+    std::function<bool(int tecla, Qt::KeyboardModifiers)> teclaSalir = [](auto...) { return false; };
     /// The gauge of the wave and digital views: shows it with a caption, steps it, unloads it.
-    std::function<void(const QString&)> muestraGasolinoOndas;
-    std::function<void(int)> ponGasolinoOndas;
-    std::function<void()> descargaGasolinoOndas;
+    std::function<void(const QString&)> muestraGasolinoOndas = [](auto&) {};
+    std::function<void(int)> ponGasolinoOndas = [](int) {};
+    std::function<void()> descargaGasolinoOndas = [] {};
     /// The box that stops a print, alone with the user's input; one that stands already stays.
-    std::function<void()> muestraCancelar;
-    std::function<void()> descargaCancelar;
-    std::function<void(bool)> activaSalir;  ///< the close button of the strip
+    std::function<void()> muestraCancelar = [] {};
+    std::function<void()> descargaCancelar = [] {};
+    std::function<void(bool)> activaSalir = [](bool) {};  ///< the close button of the strip
 };
 extern Escena escena;
-
-void MuestraMenu();
-void OcultaMenu();
-void LeeDirectoriosAjustes();
-void DescargaSelectores();
-void ActivaOrdenesPlantilla();
-void ActualizaTools();
-void MuestraGasolinoOndas(const QString& titulo);
-void PonGasolinoOndas(int valor);
-void DescargaGasolinoOndas();
-void MuestraCancelar();
-void DescargaCancelar();
-void ActivaSalir(bool activa);
 
 /// Pointer shapes by their number: the default, the hourglass, and the one of the program's own, which is a
 /// cross on a plot and a busy arrow elsewhere.
@@ -66,8 +56,8 @@ private:
     QPointer<QWidget> widget_;
 };
 
-/// Sends key-downs of forms to the exit-key handler, fills the message boxes and the pointer reset of the
-/// cores. Once, after the application object is there.
+/// Sends key-downs of forms to the exit-key handler, tells forms of their activation, fills the message boxes
+/// and the pointer reset of the cores. Once, after the application object is there.
 void InstalaEscena();
 
 /// One pass of the event queue that leaves the user's input out.

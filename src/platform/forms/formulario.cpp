@@ -111,7 +111,7 @@ void Vista::Coloca(double izquierda, double arriba, double ancho, double alto)
 
 void Vista::Presenta(QWidget* foco)
 {
-    OcultaMenu();
+    escena.ocultaMenu();
     ventana_->showNormal();
     foco->setFocus();
 }

@@ -104,7 +104,7 @@ void frmAjustes::cmdImprimir_Click()
 
 void frmAjustes::Form_Unload()
 {
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 }  // namespace veldix

@@ -10,13 +10,13 @@ namespace veldix {
 TurnoCancelar::~TurnoCancelar()
 {
     Descansa();
-    DescargaCancelar();
+    escena.descargaCancelar();
 }
 
 bool TurnoCancelar::Cancelada()
 {
     Activa(false);
-    MuestraCancelar();
+    escena.muestraCancelar();
     QCoreApplication::processEvents();
     return store.CancelaImpresion || !vista_ || vista_->Descargado();
 }
@@ -25,7 +25,7 @@ void TurnoCancelar::Activa(bool activa)
 {
     if (vista_ && !activa && vista_->isEnabled()) foco_ = vista_->focusWidget();
     if (vista_) vista_->setEnabled(activa);
-    ActivaSalir(activa);
+    escena.activaSalir(activa);
     if (vista_ && activa && foco_) foco_->setFocus();
 }
 

@@ -144,7 +144,7 @@ void FrmMenu::PonRotulos()
     for (const Rotulado& r : rotulados_)
         r.accion->setText(Q(Rotulo(r.texto, U(r.defecto))));
     PideAncho();
-    if (principal.rotulos) principal.rotulos();
+    principal.rotulos();
 }
 
 /// A missing or short file shows its box; captions that it lacks stay the built-in ones.

@@ -35,9 +35,9 @@ public:
 
     /// What the main window does for the menu.
     struct Principal {
-        std::function<void()> descarga;         ///< ends the program
-        std::function<void()> muestraRegistro;  ///< title and path of an open record
-        std::function<void()> rotulos;          ///< captions of the strip
+        std::function<void()> descarga = [] {};         ///< ends the program
+        std::function<void()> muestraRegistro = [] {};  ///< title and path of an open record
+        std::function<void()> rotulos = [] {};          ///< captions of the strip
     };
     static Principal principal;
 

@@ -100,7 +100,7 @@ void FrmMenu::mnuAbrirComtrade_Click()
 {
     const bool abierto = frmAbrirComtrade().Carga();
     if (abierto) OlvidaRegistro();
-    if (principal.muestraRegistro) principal.muestraRegistro();
+    principal.muestraRegistro();
     if (!abierto) return;
     if (store.FormatoDat == "ASCII") {
         frmPlantilla::unica.Muestra();
@@ -114,7 +114,7 @@ void FrmMenu::mnuCerrarComtrade_Click()
 {
     OlvidaRegistro();
     CierraRegistro(store);
-    if (principal.muestraRegistro) principal.muestraRegistro();
+    principal.muestraRegistro();
 }
 
 void FrmMenu::mnuPlantilla_Click()
@@ -136,7 +136,7 @@ void FrmMenu::mnuBorrartool_Click()
 
 void FrmMenu::mnuDir_defecto_Click()
 {
-    LeeDirectoriosAjustes();
+    escena.leeDirectorios();
     frmDirect::unica.Muestra();
 }
 
@@ -178,7 +178,7 @@ void FrmMenu::CambiaIdioma(std::int16_t idioma)
 
 void FrmMenu::mnuSalir_Click()
 {
-    if (Pregunta(Textos(284)) && principal.descarga) principal.descarga();
+    if (Pregunta(Textos(284))) principal.descarga();
 }
 
 void FrmMenu::mnuOndas_Click()

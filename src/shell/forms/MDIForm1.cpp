@@ -45,13 +45,13 @@ constexpr const char* kTitulo = "VELDIX 2.1.7";
 constexpr int kReloj = 1000;  // ms
 
 /// Forms in the order in which the program's end unloads them.
-constexpr const char* kOrdenFinal[] = {
-    "Conversion",       "frm19",          "frmAjustes",    "frmAnalog",      "frmAbrirComtrade",
-    "frmNewCompanalog", "frmDirect",      "frmDigital",    "frmFases",       "frmFasecuencias",
-    "frmGrid",          "frmElecdig",     "FrmMenu",       "frmNuevosTools", "frmNewOndas",
-    "frmPlantilla",     "frmSalvaPlan",   "frmSecuencias", "frmTodoanalog",  "frmTrifasic",
-    "frmVerCmpang",     "frmVerOndas",    "Mensaje",       "poscamb",        "gasolino",
-    "gasolino2",        "gasolino_ondas", "frmBaseModelo"};
+constexpr const char* kOrdenFinal[] = {"Conversion",       "frm19",          "frmAjustes",   "frmAnalog",
+                                       "frmNewCompanalog", "frmDirect",      "frmDigital",   "frmFases",
+                                       "frmFasecuencias",  "frmGrid",        "frmElecdig",   "FrmMenu",
+                                       "frmNuevosTools",   "frmNewOndas",    "frmPlantilla", "frmSalvaPlan",
+                                       "frmSecuencias",    "frmTodoanalog",  "frmTrifasic",  "frmVerCmpang",
+                                       "frmVerOndas",      "Mensaje",        "poscamb",      "gasolino",
+                                       "gasolino2",        "gasolino_ondas", "frmBaseModelo"};
 
 void DescargaTodas(const QString& nombre)
 {
@@ -121,7 +121,7 @@ void MDIForm1::LlenaGanchos()
         FrmMenu::DescargaSelectores();
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
     };
-    escena.actualizaTools = [] {
+    escena.ActualizaTools = [] {
         if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaAnalisis();
     };
     escena.teclaSalir = [this](int tecla, Qt::KeyboardModifiers estado) { return TeclaSalir(tecla, estado); };
@@ -209,7 +209,7 @@ void MDIForm1::EjecutaLinea()
     if (dat.empty()) return;
     AbreDeLinea(dat);
     PlantillaDeLinea(plantilla);
-    DescargaGasolino();
+    ganchosRegistro.DescargaGasolino();
 }
 
 /// The record counts as open before it is read, and nothing is tested after it.
@@ -238,7 +238,7 @@ void MDIForm1::PlantillaDeLinea(const std::string& plantilla)
         return;
     }
     LeerPlantilla(store);
-    LlenarGasolino(true, 5);
+    ganchosRegistro.LlenarGasolino(true, 5);
     if (store.VersionPlan == "ver 1.0") return;
     EscribeSesion(store);
     if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
@@ -347,7 +347,7 @@ void MDIForm1::CierraVista(Vista* vista)
         default:
             vista->Descarga();
     }
-    veldix::MuestraMenu();
+    MuestraMenu();
 }
 
 /// The view, and the other one too where both were opened.

@@ -21,7 +21,8 @@ public:
 
     /// Moves the gauge by `valor` points, or to it where not `relativo`; 0 resets it.
     void LlenarGasolino(bool relativo, std::int16_t valor);
-    /// Sets the filled part to a percentage of the track; `resultado` takes its width in twips.
+    /// Sets the filled part to a percentage of the track; `resultado` takes its width in twips. `x`
+    /// does nothing, it only belongs to the call.
     void PintaGasolino(double x, double porcentaje, double& resultado);
 
 private:

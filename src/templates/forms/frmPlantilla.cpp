@@ -69,7 +69,7 @@ void frmPlantilla::Dispone()
 
 void frmPlantilla::Form_Load()
 {
-    LeeDirectoriosAjustes();
+    escena.leeDirectorios();
     elector_->Pon(store.DirPlantillas);
     elector_->PonPatron(U(Combo1->currentText()));
     Centra(*this);
@@ -77,7 +77,7 @@ void frmPlantilla::Form_Load()
 
 void frmPlantilla::Form_Activate()
 {
-    LeeDirectoriosAjustes();
+    escena.leeDirectorios();
     elector_->Pon(store.DirPlantillas);
 }
 
@@ -132,8 +132,8 @@ void frmPlantilla::cmdBuscar_Click()
         return;
     }
     AplicaPlantilla(store);
-    EscribeSesion();
-    ActivaOrdenesPlantilla();
+    ganchosRegistro.EscribeSesion();
+    escena.activaPlantilla();
     Descarga();
     PonPuntero(this, Puntero::Normal);
 }
@@ -145,7 +145,7 @@ void frmPlantilla::Rechaza(const std::string& estacion)
     store.EstacionPlan = estacion;
     Avisa(Textos(253), Icono::Critico);
     PonPuntero(this, Puntero::Normal);
-    DescargaSelectores();
+    escena.descargaSelectores();
     LeerCfg(store);
 }
 

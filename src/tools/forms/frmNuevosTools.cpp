@@ -157,7 +157,7 @@ void frmNuevosTools::Anade()
     }
     ini.herramientas.push_back(nueva.nombre + "=" + nueva.orden);
     EscribeHerramientas(store, std::move(ini));
-    ActualizaTools();
+    escena.ActualizaTools();
     Descarga();
 }
 
@@ -166,7 +166,7 @@ void frmNuevosTools::Borra()
 {
     ToolsIni ini = LeeToolsIni(store);
     if (BorraHerramienta(ini.herramientas, Elegida().nombre)) EscribeHerramientas(store, std::move(ini));
-    ActualizaTools();
+    escena.ActualizaTools();
     Descarga();
 }
 

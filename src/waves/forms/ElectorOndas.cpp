@@ -84,13 +84,13 @@ void ElectorOndas::EmpiezaApertura(int avance)
     abriendo_ = true;
     PonPunteros(this, Puntero::Propio);
     hide();
-    MuestraGasolinoOndas(Q(Rotulo(285, "Preparando las ondas...")));
-    PonGasolinoOndas(avance);
+    escena.muestraGasolinoOndas(Q(Rotulo(285, "Preparando las ondas...")));
+    escena.ponGasolinoOndas(avance);
 }
 
 void ElectorOndas::AcabaApertura()
 {
-    DescargaGasolinoOndas();
+    escena.descargaGasolinoOndas();
     PonPunteros(this, Puntero::Normal);
     Descarga();
 }
@@ -99,10 +99,10 @@ void ElectorOndas::AcabaApertura()
 void ElectorOndas::TrasError()
 {
     if (!abriendo_) return;
-    DescargaGasolinoOndas();
+    escena.descargaGasolinoOndas();
     Deshace();
     PonPunteros(this, Puntero::Normal);
-    MuestraMenu();
+    escena.muestraMenu();
     Descarga();
 }
 

@@ -46,7 +46,7 @@ protected:
     static void MuestraVentanas(const Tabla1<V*>& ventanas, int abiertas)
     {
         if (abiertas == 0) return;
-        OcultaMenu();
+        escena.ocultaMenu();
         for (V* ventana : ventanas) {
             if (!ventana) continue;
             ventana->Ventana().showNormal();

@@ -185,7 +185,7 @@ void VistaOndas::Form_Resize()
 
 void VistaOndas::Form_Minimiza()
 {
-    if (Activa) OcultaMenu();
+    if (Activa) escena.ocultaMenu();
 }
 
 }  // namespace veldix

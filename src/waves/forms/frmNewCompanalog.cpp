@@ -93,10 +93,10 @@ void frmNewCompanalog::AbreVentanas()
         store.VentanaComp(j) = new frmVerCmpang;
         store.VentanaComp(j)->Form_activo(lugares[n], j, static_cast<int>(n) + 1);
     }
-    PonGasolinoOndas(80);
+    escena.ponGasolinoOndas(80);
     for (const int j : usadas)
         if (frmVerCmpang* ventana = store.VentanaComp(j)) ventana->Composicion(j);
-    PonGasolinoOndas(100);
+    escena.ponGasolinoOndas(100);
 }
 
 void frmNewCompanalog::Deshace()

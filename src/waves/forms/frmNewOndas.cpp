@@ -109,11 +109,11 @@ void frmNewOndas::AbreVentanas(int cuenta)
     const TamanoVista vista = MideVista({store.AnchoPantalla, store.AltoPantalla});
     store.NumVentanasOnda = static_cast<std::int16_t>(cuenta);
     const std::vector<Lugar> lugares = RejillaVentanas(cuenta, vista);
-    PonGasolinoOndas(60);
+    escena.ponGasolinoOndas(60);
     ActivaVentanas(lugares);
-    PonGasolinoOndas(80);
+    escena.ponGasolinoOndas(80);
     MuestraVentanas(store.VentanaOnda, store.NumVentanasOnda);
-    PonGasolinoOndas(100);
+    escena.ponGasolinoOndas(100);
 }
 
 /// A window for each chosen channel, in rising number. Where two slots named one channel the search runs

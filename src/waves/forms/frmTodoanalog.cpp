@@ -24,8 +24,6 @@ frmTodoanalog::frmTodoanalog()
                     kMargenesBandas)
 {
     CreaControles();
-    Conecta(lblet, &EtiquetasCorridas::Change, this, &frmTodoanalog::HScroll_Nombres_Change);
-    Conecta(lblet, &EtiquetasCorridas::Click, this, &frmTodoanalog::lblet_Click);
     Atrapa(this, [this] { Form_Load(); });
 }
 
@@ -100,10 +98,10 @@ void frmTodoanalog::Rehace()
     PreparaBarras();
     PonBarras(1, 1, ultima_);
     bandas_ = ColocaBandas(store, canales_, static_cast<float>(plot_->Alto()));
-    PonGasolinoOndas(20);
+    escena.ponGasolinoOndas(20);
     PintaMarco();
     Curvas(1, ultima_, EscalaCurva);
-    PonGasolinoOndas(40);
+    escena.ponGasolinoOndas(40);
     Cursor1 = Cursor2 = 1.0F;
     PonLinea(linea1_, XCursor(Cursor1));
     PonLinea(linea2_, XCursor(Cursor2));
@@ -185,19 +183,9 @@ std::optional<HojaOndas> frmTodoanalog::Hoja(Impresora& impresora)
                       {"", Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
 }
 
-void frmTodoanalog::HScroll_Nombres_Change()
-{
-    lblet->Corre();
-}
-
-void frmTodoanalog::lblet_Click(int k)
-{
-    lblet->Restaura(k);
-}
-
 void frmTodoanalog::Form_Unload()
 {
-    MuestraMenu();
+    escena.muestraMenu();
 }
 
 }  // namespace veldix

@@ -35,8 +35,6 @@ private:
     void ColocaEtiquetas(const LugaresTodo& l);
     void PintaMarco();
     void Curvas(int s, int e, float escala);
-    void HScroll_Nombres_Change();
-    void lblet_Click(int k);
 
     EtiquetasCorridas* lblet;
     BarraCursor* HScroll_Nombres;

@@ -41,10 +41,6 @@ frmVerCmpang::frmVerCmpang()
                 Icono::Informacion)
 {
     CreaControles();
-    Conecta(lblam, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Amar_Change);
-    Conecta(lblci, &EtiquetasCorridas::Change, this, &frmVerCmpang::HScroll_Cian_Change);
-    Conecta(lblam, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblam_Click);
-    Conecta(lblci, &EtiquetasCorridas::Click, this, &frmVerCmpang::lblci_Click);
 }
 
 void frmVerCmpang::CreaControles()
@@ -223,23 +219,6 @@ std::optional<HojaOndas> frmVerCmpang::Hoja(Impresora& impresora)
                              {U(windowTitle()), Cursor1, Cursor2, "", U(lblms->text()), FechaImpresion()});
 }
 
-void frmVerCmpang::HScroll_Amar_Change()
-{
-    lblam->Corre();
-}
-void frmVerCmpang::HScroll_Cian_Change()
-{
-    lblci->Corre();
-}
-void frmVerCmpang::lblam_Click(int k)
-{
-    lblam->Restaura(k);
-}
-void frmVerCmpang::lblci_Click(int k)
-{
-    lblci->Restaura(k);
-}
-
 void frmVerCmpang::Form_Unload()
 {
     Intenta([this] {
@@ -248,7 +227,7 @@ void frmVerCmpang::Form_Unload()
         store.MatrizComp(fila_, store.NumAnalog + 1) = 0;
     });
     --store.NumVentanasComp;
-    if (store.NumVentanasComp == 0) MuestraMenu();
+    if (store.NumVentanasComp == 0) escena.muestraMenu();
 }
 
 }  // namespace veldix

@@ -22,7 +22,8 @@ public:
 
     /// Rows of `Canales` of the curves, in their order.
     const std::vector<int>& Canales() const { return canales_; }
-    /// Console colour of position `n`, 0 beyond the last.
+    /// Console colour of position `n`, 0 beyond the last: for whoever asks the window. The legend on paper
+    /// has the colours of the curves instead.
     int color(int n) const { return ColorLeyenda(n); }
 
 protected:
@@ -41,10 +42,6 @@ private:
     void ColocaBotones(const LugaresComp& l);
     void Dibuja();
     void PonEtiquetas(EtiquetasCorridas* textos, int muestra);
-    void HScroll_Amar_Change();
-    void HScroll_Cian_Change();
-    void lblam_Click(int k);
-    void lblci_Click(int k);
 
     QLabel *marcamar, *marcaci, *Label1, *Label2;
     BarraCursor *HScroll_Amar, *HScroll_Cian;

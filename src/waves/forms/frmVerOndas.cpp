@@ -89,8 +89,6 @@ void frmVerOndas::ColocaEtiquetas(const LugaresOnda& l)
     PonTexto(lblcian, valor);
     PonTexto(lblms, "0.000 ms");
     PonTexto(lblDif, Q("0.000 " + unidades));
-    textoMs_ = lblms->text();
-    textoDif_ = lblDif->text();
 }
 
 void frmVerOndas::ColocaBotones(const LugaresOnda& l)
@@ -127,15 +125,13 @@ void frmVerOndas::PonTextos(int)
     PonTexto(lblcian, Q(TextoValor(v2, unidades)));
     PonTexto(lblDif, Q(TextoDiferencia(v1, v2, unidades)));
     PonTexto(lblms, Q(TextoTiempo(Cursor1, Cursor2, MuestrasPorSegundo(store))));
-    textoDif_ = lblDif->text();
-    textoMs_ = lblms->text();
 }
 
 std::optional<HojaOndas> frmVerOndas::Hoja(Impresora& impresora)
 {
-    return HojaDeOnda(
-        store, impresora, Canal_, zoom_.Pila(zoom_.NivelZoom + 1), EscalaY,
-        {NombreCanal(store, Canal_), Cursor1, Cursor2, U(textoDif_), U(textoMs_), FechaImpresion()});
+    return HojaDeOnda(store, impresora, Canal_, zoom_.Pila(zoom_.NivelZoom + 1), EscalaY,
+                      {NombreCanal(store, Canal_), Cursor1, Cursor2, U(lblDif->text()), U(lblms->text()),
+                       FechaImpresion()});
 }
 
 void frmVerOndas::Form_Unload()
@@ -146,7 +142,7 @@ void frmVerOndas::Form_Unload()
     Intenta([this] {
         if (store.VentanaOnda(Canal_) == this) store.VentanaOnda(Canal_) = nullptr;
     });
-    if (store.NumVentanasOnda == 0) MuestraMenu();
+    if (store.NumVentanasOnda == 0) escena.muestraMenu();
 }
 
 }  // namespace veldix

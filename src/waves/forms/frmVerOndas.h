@@ -15,9 +15,6 @@ public:
     void Form_activo(double alto, double ancho, double arriba, double izquierda);
 
     int Canal() const { return Canal_; }
-    /// Texts of the difference and time labels as a page prints them.
-    const QString& TextoDif() const { return textoDif_; }
-    const QString& TextoMs() const { return textoMs_; }
 
 protected:
     void Form_Unload() override;
@@ -38,7 +35,6 @@ private:
 
     int Canal_;
     int columna_ = 0;  ///< of `Muestras`
-    QString textoDif_, textoMs_;
 };
 
 }  // namespace veldix

@@ -11,6 +11,7 @@
 #include "platform/forms/ImpresoraQt.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
+#include "platform/forms/formulario.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -56,11 +57,10 @@ TEST(BarraCursor, ArrowAndPageKeysRunAgainstEachOther)
 
 TEST(EtiquetaLineas, ATextTooLongLosesItsValueOrTheBeginningIsNeverSeen)
 {
-    QWidget marco;
+    Formulario marco(nullptr);
     auto* etiqueta = new EtiquetaLineas(&marco, "lblet1");
     BarraCursor barra("HScroll_Nombres", "", &marco);
     EtiquetasCorridas e({etiqueta}, &barra, &marco);
-    QObject::connect(&e, &EtiquetasCorridas::Click, &e, &EtiquetasCorridas::Restaura);
     const QFontMetrics letra(marco.font());
     const auto lugar = [&](int lineas) {
         return QSize(letra.horizontalAdvance("-1234567,875 kA"), lineas * letra.height());
@@ -101,12 +101,10 @@ TEST(Etiquetas, FiguresAreCutThoughTheyCouldBeCondensed)
 
 TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
 {
-    QWidget marco;
+    Formulario marco(nullptr);
     auto *una = new QLabel(&marco), *otra = new QLabel(&marco);
     BarraCursor barra("HScroll_Nombres", "", &marco);
     EtiquetasCorridas e({una, otra}, &barra, &marco);
-    QObject::connect(&e, &EtiquetasCorridas::Change, &e, &EtiquetasCorridas::Corre);
-    QObject::connect(&e, &EtiquetasCorridas::Click, &e, &EtiquetasCorridas::Restaura);
     e.Pon(1, "Tensión 3€");
     e.Pon(2, "b");
     e.Recoge(2, true);

@@ -138,7 +138,7 @@ TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
     EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/sub/copia.cfg")).ends_with("fecha\r\nASCII\r\n\r\n"));
     EXPECT_EQ(store.Muestras(2, 2), 10.0F);
 
-    ganchosRegistro.PonGasolino2 = nullptr;
+    ganchosRegistro.PonGasolino2 = [](int) {};
     Empieza("Convertir_salir", "vieja");
     cajas->Espera(Textos(167), Icono::Pregunta, Botones::AceptarCancelar);
     Acepta();
