@@ -34,31 +34,20 @@ std::vector<fs::path> Ficheros(const fs::path& carpeta)
     return r;
 }
 
-void Repite(const Objetivo& objetivo, const std::vector<fs::path>& ficheros)
-{
-    for (const fs::path& fichero : ficheros) {
-        const std::string octetos = veldix::LeeOctetos(fichero.string());
-        try {
-            objetivo.prueba({reinterpret_cast<const std::uint8_t*>(octetos.data()), octetos.size()});
-        } catch (const std::exception& e) {
-            ADD_FAILURE() << fichero << ": " << e.what();
-        }
-    }
-}
-
 class Replay : public testing::TestWithParam<Objetivo> {};
 
 TEST_P(Replay, SeedsHold)
 {
     const auto semillas = Ficheros(fs::path(VELDIX_SOURCE) / "fuzz/seeds" / GetParam().nombre);
     EXPECT_FALSE(semillas.empty());
-    Repite(GetParam(), semillas);
-}
-
-TEST_P(Replay, OldFindingsHold)
-{
-    const fs::path carpeta = fs::path(VELDIX_SOURCE) / "fuzz/found" / GetParam().nombre;
-    if (fs::exists(carpeta)) Repite(GetParam(), Ficheros(carpeta));
+    for (const fs::path& semilla : semillas) {
+        const std::string octetos = veldix::LeeOctetos(semilla.string());
+        try {
+            GetParam().prueba({reinterpret_cast<const std::uint8_t*>(octetos.data()), octetos.size()});
+        } catch (const std::exception& e) {
+            ADD_FAILURE() << semilla << ": " << e.what();
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Replay, testing::ValuesIn(kObjetivos),

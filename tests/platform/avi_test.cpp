@@ -52,8 +52,6 @@ std::string Lee(const std::string& octetos)
     return r.str();
 }
 
-const char* const kSana = "6x4 80 abc de";
-
 TEST(Avi, IsReadOrRefusedWhole)
 {
     const std::string nada = Trozo("00dc", ""), uno = Trozo("00dc", "a"), dos = Trozo("01dc", "b");
@@ -63,8 +61,8 @@ TEST(Avi, IsReadOrRefusedWhole)
     for (int i = 0; i < 1000; ++i)
         honda = Trozo("LIST", "rec " + honda);
     const std::pair<const char*, Receta> casos[] = {
-        {kSana, {}},
-        {kSana, {.alto = 0xfffffffc}},  // stored from the top down
+        {"6x4 80 abc de", {}},
+        {"6x4 80 abc de", {.alto = 0xfffffffc}},  // stored from the top down
         {"6x4 50 abc de", {.ritmo = 0}},
         {"6x4 80 a a", {.movi = lista + Trozo("JUNK", "999") + lista}},
         {"6x4 80 a ", {.movi = nada + dos + uno + nada}},  // an empty frame repeats the one before
@@ -83,24 +81,6 @@ TEST(Avi, IsReadOrRefusedWhole)
     };
     for (const auto& c : casos)
         EXPECT_EQ(Lee(c.second.Hace()), c.first) << "case " << &c - casos;
-}
-
-TEST(Avi, NoSizeReachesBehindTheFile)
-{
-    const std::string entero = Receta().Hace();
-    for (std::size_t n = 8; n < entero.size(); ++n) {
-        const std::string tamano = Enteros({static_cast<std::uint32_t>(n - 8)});
-        const std::string leido = Lee(entero.substr(0, n).replace(4, 4, tamano));
-        EXPECT_TRUE(leido.empty() || leido == kSana) << n;
-    }
-    EXPECT_EQ(Lee(entero + "abc"), kSana);
-    for (const char* sigla : {"RIFF", "LIST", "avih", "strh", "strf", "00dc", "idx1"}) {
-        for (const std::uint32_t tamano : {0U, 0x7fffffffU, 0xfffffff8U, 0xffffffffU}) {
-            std::string octetos = entero;
-            octetos.replace(octetos.find(sigla) + 4, 4, Enteros({tamano}));
-            EXPECT_EQ(Lee(octetos), "") << sigla << ' ' << tamano;
-        }
-    }
 }
 
 }  // namespace

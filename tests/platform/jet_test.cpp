@@ -1,10 +1,9 @@
 #include "platform/jet.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <random>
 
 #include "platform/ficheros.h"
-#include "platform/rutas.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -82,73 +81,6 @@ TEST(Jet, AFailureHasTheWrongNumber)
     Recordset uno = BaseJet(kDatos + "uno.mdb").AbreTabla("PEst UNO");
     EXPECT_EQ(numero([&] { uno.Texto("Byte"); }), 3265);
     EXPECT_EQ(numero([&] { uno.Numero("Descripcion"); }), 13);
-}
-
-/// A damaged copy: bits turned, stretches of zeros, of other octets or of another page, or an early end.
-std::string Dana(std::string octetos, std::mt19937& azar)
-{
-    const auto hasta = [&](std::size_t n) {
-        return std::uniform_int_distribution<std::size_t>(0, n - 1)(azar);
-    };
-    constexpr std::size_t kPagina = 4096;
-    for (std::size_t veces = 1 + hasta(8); veces > 0; --veces) {
-        const std::size_t en = hasta(octetos.size());
-        const std::size_t largo = std::min<std::size_t>(1 + hasta(64), octetos.size() - en);
-        switch (hasta(5)) {
-            case 0:
-                octetos[en] = static_cast<char>(octetos[en] ^ (1 << hasta(8)));
-                break;
-            case 1:
-                std::fill_n(octetos.begin() + static_cast<std::ptrdiff_t>(en), largo, '\0');
-                break;
-            case 2:
-                for (std::size_t i = 0; i < largo; ++i)
-                    octetos[en + i] = static_cast<char>(hasta(256));
-                break;
-            case 3:
-                octetos.replace(en / kPagina * kPagina, kPagina, octetos,
-                                hasta(octetos.size() / kPagina) * kPagina, kPagina);
-                break;
-            default:
-                if (hasta(8) == 0) octetos.resize(3 * kPagina + hasta(octetos.size() - 3 * kPagina));
-        }
-    }
-    return octetos;
-}
-
-TEST(Jet, ADamagedDatabaseCrashesHangsOrRaisesSomethingElse)
-{
-    const prueba::Carpeta c;
-    std::mt19937 azar(20261123);
-    const std::string buenas[] = {prueba::LeeTodo(kDatos + "uno.mdb"),
-                                  prueba::LeeTodo(kDatos + "movidas.mdb"),
-                                  prueba::LeeTodo(kDatos + "Modelos.mdb")};
-    const char* veces = std::getenv("VELDIX_DANOS");
-    int errores = 0, filas = 0;
-    testing::internal::CaptureStderr();  // the library tells each damage there
-    for (int i = 0; i < (veces ? std::atoi(veces) : 1500); ++i) {
-        const std::string ruta = c.Escribe("d.mdb", Dana(buenas[i % 3], azar));
-        try {
-            const BaseJet base(ruta);
-            for (const std::string& tabla : base.Tablas())
-                for (Recordset r = base.AbreTabla(tabla); !r.Eof(); r.MoveNext())
-                    ++filas;
-        } catch (const ErrorEjecucion& e) {
-            EXPECT_TRUE(e.numero == 3343 || e.numero == 3265 || e.numero == 7) << i << ": " << e.numero;
-            ++errores;
-        }
-    }
-    testing::internal::GetCapturedStderr();
-    EXPECT_TRUE(errores > 0 && filas > 0);
-}
-
-TEST(Rutas, ModelsAreSoughtElsewhereThanBesideTheProgramFolders)
-{
-    const prueba::Carpeta c;
-    std::filesystem::create_directories(c.Ruta("MODELS"));
-    c.Escribe("MODELS/modelos.MDB", "");
-    EXPECT_EQ(RutaModelos(c.Ruta("VELDIX/EXE"), "Modelos.mdb"), c.Ruta("MODELS/modelos.MDB"));
-    EXPECT_EQ(RutaModelos("/opt/otra/EXE", "x"), "/opModels/x");
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 namespace veldix {
 namespace {
 
-TEST(Rutas, LosIconosSeBuscanDelanteDelUltimoExe)
+TEST(Rutas, IconsAreSoughtElsewhereThanBesideTheLastFolderOfPrograms)
 {
     const prueba::Carpeta carpeta;
     std::filesystem::create_directories(carpeta.Ruta("exequiel/VELDIX/iconos"));
@@ -22,6 +22,15 @@ TEST(Rutas, LosIconosSeBuscanDelanteDelUltimoExe)
     for (const auto& caso : casos)
         EXPECT_EQ(RutaIconos(carpeta.Ruta(caso.programa), "onda.avi"), carpeta.Ruta(caso.hallado));
     EXPECT_EQ(RutaIconos("/opt/veldix/bin", "onda.avi"), "");
+}
+
+TEST(Rutas, ModelsAreSoughtElsewhereThanBesideTheProgramFolders)
+{
+    const prueba::Carpeta c;
+    std::filesystem::create_directories(c.Ruta("MODELS"));
+    c.Escribe("MODELS/modelos.MDB", "");
+    EXPECT_EQ(RutaModelos(c.Ruta("VELDIX/EXE"), "Modelos.mdb"), c.Ruta("MODELS/modelos.MDB"));
+    EXPECT_EQ(RutaModelos("/opt/otra/EXE", "x"), "/opModels/x");
 }
 
 }  // namespace

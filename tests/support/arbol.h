@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QAction>
-#include <QApplication>
+#include <QPushButton>
+#include <QTest>
 
 #include <memory>
 
+#include "platform/forms/dialogo_fichero.h"
 #include "platform/forms/escena.h"
 #include "platform/textos.h"
 #include "record/record_store.h"
+#include "shell/forms/FrmMenu.h"
 #include "shell/forms/MDIForm1.h"
 #include "support/soporte.h"
 
@@ -31,7 +34,11 @@ protected:
                              "***|GRUPO| 1 |1%Disparo$|-----"));
         c.Escribe("d/v10.cnf", ConFinales("ver 1.0|VIEJA|-----"));
     }
-    ~Arbol() override { Termina(); }
+    ~Arbol() override
+    {
+        Termina();
+        PonDialogoFichero(nullptr);
+    }
 
     /// The settings of a first start in Spanish (1) or English (0).
     void PonIni(const std::string& idioma, const std::vector<std::string>& herramientas = {}) const
@@ -85,6 +92,26 @@ protected:
         return hijo;
     }
     QAction* Accion(const std::string& nombre) const { return Hijo<QAction>(nombre); }
+    /// A button of a form, or of the strip.
+    void Pulsa(const char* boton, const QWidget* form)
+    {
+        QTest::mouseClick(Hijo<QPushButton>(boton, form), Qt::LeftButton);
+        QTest::qWait(1);
+        EXPECT_EQ(cajas->Pendientes(), 0U);
+    }
+    static bool MenuALaVista()
+    {
+        QTest::qWait(1);
+        Vista* menu = FrmMenu::unica.Cargado();
+        return menu->Ventana().isVisible() && menu->Ventana().isMaximized();
+    }
+    /// The file dialog answers with this, beneath the tree, and the menu opens it.
+    void AbreRegistro(const std::string& dat)
+    {
+        PonDialogoFichero([=, this](const PeticionFichero&) { return std::optional(c.Ruta(dat)); });
+        Accion("mnuAbrirComtrade")->trigger();
+        QTest::qWait(1);
+    }
 
     Carpeta c;
     std::unique_ptr<RespondeCajas> cajas;

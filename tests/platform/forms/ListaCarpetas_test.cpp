@@ -32,7 +32,7 @@ protected:
     QSignalSpy cambios{&lista, &ListaCarpetas::Cambio};
 };
 
-TEST_F(ListaCarpetasTest, MuestraAscendientesYSubcarpetasYSeRecorrePorTeclado)
+TEST_F(ListaCarpetasTest, ParentsOrSubfoldersAreMissingOrTheKeysDoNotEnterThem)
 {
     QStringList lineas;
     for (QTreeWidgetItemIterator it(&lista); *it; ++it)
@@ -53,7 +53,7 @@ TEST_F(ListaCarpetasTest, MuestraAscendientesYSubcarpetasYSeRecorrePorTeclado)
     EXPECT_EQ(cambios.count(), 3);
 }
 
-TEST_F(ListaCarpetasTest, ElDobleClicEntraYUnaCarpetaQueFaltaNoMueveLaLista)
+TEST_F(ListaCarpetasTest, ADoubleClickDoesNotEnterOrAMissingFolderMovesTheList)
 {
     for (const char* ruta : {"", "/no/such/folder", "/etc/passwd"})
         EXPECT_EQ(prueba::NumeroDeError([&] { lista.Pon(ruta); }), 76) << ruta;
@@ -70,7 +70,7 @@ TEST_F(ListaCarpetasTest, ElDobleClicEntraYUnaCarpetaQueFaltaNoMueveLaLista)
     EXPECT_EQ(lista.Ruta(), carpeta.Ruta("B"));
 }
 
-TEST(ListaFicheros, ElPatronNoMiraLaCajaYCadaEleccionAvisaUnaVez)
+TEST(ListaFicheros, APatternLooksAtTheCaseOrAChoiceIsToldTwice)
 {
     const prueba::Carpeta carpeta;
     for (const char* nombre : {"b.CNF", "A.cnf", "c.cnfx", "d.dat"})

@@ -3,12 +3,9 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 
 #include "platform/ficheros.h"
 #include "platform/forms/ListaCarpetas.h"
-#include "platform/forms/dialogo_fichero.h"
 #include "record/avance.h"
 #include "shell/forms/Mensaje.h"
 #include "shell/forms/gasolino2.h"
@@ -31,19 +28,8 @@ protected:
                   std::string("\1\0\0\0\0\0\0\0\7\0\10\0\1\0\2\0\0\0\350\3\0\0\11\0\12\0\0\0", 28));
         Arranca();
     }
-    ~Convierte() override { PonDialogoFichero(nullptr); }
 
-    void Abre(const char* dat = "d/bin.dat")
-    {
-        PonDialogoFichero([=, this](const PeticionFichero&) { return std::optional(c.Ruta(dat)); });
-        Accion("mnuAbrirComtrade")->trigger();
-    }
-    void Pulsa(const char* boton, Formulario* form)
-    {
-        if (!form) throw std::runtime_error(std::string("no form for ") + boton);
-        QTest::mouseClick(Hijo<QPushButton>(boton, form), Qt::LeftButton);
-        EXPECT_EQ(cajas->Pendientes(), 0U);
-    }
+    void Abre(const char* dat = "d/bin.dat") { AbreRegistro(dat); }
     /// Opens the record, and the conversion by a button of the choice; types a name.
     void Empieza(const char* boton, const char* nombre)
     {
@@ -160,19 +146,12 @@ TEST_F(Convierte, AFailureIsSilentOrLeavesAWindow)
     Acepta();
     EXPECT_EQ(EnPie(), "");
     fs::create_directory(c.Ruta("otra"));
-    fs::copy(c.Ruta("d/bin.dat"), c.Ruta("otra/bin.dat"));
-    fs::copy(c.Ruta("d/bin.cfg"), c.Ruta("otra/bin.cfg"));
+    for (const char* nombre : {"/bin.dat", "/bin.cfg"})
+        fs::copy(c.Ruta("d") + nombre, c.Ruta("otra") + nombre);
     Abre("otra/bin.dat");
     fs::remove_all(c.Ruta("otra"));
     Pulsa("Convertir_salir", poscamb::unica.Cargado());
     EXPECT_EQ(Camin(), U(QDir::currentPath())) << "the record's folder has gone";
-    Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado())->Pon(c.Ruta());
-    fs::remove_all(c.Ruta("d"));
-    cajas->Espera("Error 76: Path not found", Icono::Critico);
-    auto* carpetas = Hijo<ListaCarpetas>("Dir1", Conversion::unica.Cargado());
-    carpetas->setCurrentItem(carpetas->findItems("d", Qt::MatchExactly | Qt::MatchRecursive).value(0));
-    QTest::keyClick(carpetas, Qt::Key_Return);
-    EXPECT_EQ(EnPie(), "c") << "another folder can be chosen";
     Senda()->setText("x");
     cajas->Espera("Error 53: File not found", Icono::Critico);
     Acepta();

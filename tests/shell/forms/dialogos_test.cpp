@@ -1,43 +1,15 @@
-#include <QLabel>
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QPushButton>
-
-#include "platform/forms/escena.h"
-#include "record/record_store.h"
 #include "shell/forms/Cancelar.h"
 #include "shell/forms/Mensaje.h"
 #include "shell/forms/gasolino.h"
 #include "shell/forms/gasolino_ondas.h"
-#include "support/soporte.h"
+#include "support/escenario.h"
 
 namespace veldix {
 namespace {
 
-/// A main window with an area.
-class DialogosTest : public testing::Test {
-protected:
-    DialogosTest()
-    {
-        store = RecordStore{};
-        principal.setCentralWidget(area);
-        principal.resize(800, 600);
-        principal.show();
-        escena.principal = &principal;
-        escena.area = area;
-    }
-    ~DialogosTest() override
-    {
-        gasolino::unica.Descarga();
-        gasolino_ondas::unica.Descarga();
-        escena = Escena{};
-        store = RecordStore{};
-    }
-    QMdiArea* area = new QMdiArea;
-    QMainWindow principal;
-};
+using Dialogos = prueba::Escenario;
 
-TEST_F(DialogosTest, CancelarPoneSuBanderaYMensajeRenuevaSoloPorSuBoton)
+TEST_F(Dialogos, AWindowButtonDoesNotCancelOrRenewsAsTheOwnButtonDoes)
 {
     for (const bool boton : {false, true}) {
         store.CancelaImpresion = false;
@@ -53,7 +25,7 @@ TEST_F(DialogosTest, CancelarPoneSuBanderaYMensajeRenuevaSoloPorSuBoton)
     }
 }
 
-TEST_F(DialogosTest, GasolinoOndasSigueSinPelicula)
+TEST_F(Dialogos, AMissingOrBrokenFilmStopsTheGauge)
 {
     const prueba::Carpeta carpeta;
     std::filesystem::create_directories(carpeta.Ruta("rota/Iconos"));
@@ -71,7 +43,7 @@ TEST_F(DialogosTest, GasolinoOndasSigueSinPelicula)
     }
 }
 
-TEST_F(DialogosTest, GasolinoCreceSobreElAreaYGuardaLoUltimoDibujado)
+TEST_F(Dialogos, TheGaugeStandsElsewhereOrCutsItsCaption)
 {
     gasolino& form = gasolino::unica.CargaNueva();
     EXPECT_EQ(form.geometry().bottomLeft(), QPoint(7, area->height() - 7));  // 100 and 96 twips

@@ -1,42 +1,29 @@
 #include "shell/forms/frmDirect.h"
 
-#include <QTest>
-
-#include "platform/forms/escena.h"
-#include "platform/textos.h"
-#include "record/record_store.h"
-#include "support/soporte.h"
+#include "support/escenario.h"
 
 namespace veldix {
 namespace {
 
 constexpr const char* kTools = "0\n/x\r\n/y\r\n/z\r\n2\r\n\"Uno=/opt/u, v\"\r\n\"A=\"\"b\"\"\"\r\n";
 
-class frmDirectTest : public testing::Test {
+class frmDirectTest : public prueba::Escenario {
 protected:
     frmDirectTest()
     {
         for (const char* nombre : {"reg/sub", "pla", "apl", "nueva", "ini"})
             std::filesystem::create_directories(carpeta.Ruta(nombre));
-        store = RecordStore{};
         store.DirIni = carpeta.Ruta("ini");
         store.DirDatos = carpeta.Ruta("reg");
         store.DirPlantillas = carpeta.Ruta("pla");
         store.DirAplic = carpeta.Ruta("apl");
         carpeta.Escribe("ini/tools.ini", kTools);
-        CargaTextos(VELDIX_SOURCE "/runtime/VELDIX/ini/vdotro.ini");
-    }
-    ~frmDirectTest() override
-    {
-        frmDirect::unica.Descarga();
-        store = RecordStore{};
-        VaciaTextos();
     }
 
     template <class Control>
     static Control* Da(const char* nombre)
     {
-        return frmDirect::unica.Cargado()->findChild<Control*>(QLatin1String(nombre));
+        return Escenario::Da<Control>(nombre, frmDirect::unica.Cargado());
     }
     /// Opens with folders of the test's in the fields.
     void Abre(const char* oscilos, const char* plantillas, const char* aplic)
@@ -50,14 +37,13 @@ protected:
     {
         return U(Da<QLineEdit>(nombre)->text()).substr(carpeta.Ruta().size() + 1);
     }
-    static void Pulsa(const char* boton) { QTest::mouseClick(Da<QPushButton>(boton), Qt::LeftButton); }
+    static void Acepta() { Pulsa("cmdOK", frmDirect::unica.Cargado()); }
     std::string Tools() const { return prueba::LeeTodo(carpeta.Ruta("ini/tools.ini")); }
 
     prueba::Carpeta carpeta;
-    prueba::RespondeCajas cajas;
 };
 
-TEST_F(frmDirectTest, LasComprobacionesPasanEnOrdenYDejanLoComprobado)
+TEST_F(frmDirectTest, ChecksRunInAnotherOrderOrLoseAFolderThatWasGood)
 {
     const struct {
         const char *oscilos, *plantillas, *aplic, *que;
@@ -69,7 +55,7 @@ TEST_F(frmDirectTest, LasComprobacionesPasanEnOrdenYDejanLoComprobado)
         store.DirDatos = store.DirPlantillas = store.DirAplic = carpeta.Ruta("reg");
         Abre(caso.oscilos, caso.plantillas, caso.aplic);
         cajas.Espera(std::string("El directorio de ") + caso.que + " no existe.", Icono::Critico);
-        Pulsa("cmdOK");
+        Acepta();
         EXPECT_EQ(store.DirDatos, carpeta.Ruta(cambiadas > 0 ? "nueva" : "reg"));
         EXPECT_EQ(store.DirPlantillas, carpeta.Ruta(cambiadas > 1 ? "nueva" : "reg"));
         EXPECT_EQ(store.DirAplic, carpeta.Ruta("reg"));
@@ -78,10 +64,10 @@ TEST_F(frmDirectTest, LasComprobacionesPasanEnOrdenYDejanLoComprobado)
     }
 }
 
-TEST_F(frmDirectTest, AceptarReescribeElFicheroConSusHerramientas)
+TEST_F(frmDirectTest, AcceptingLosesTheToolsOfTheFile)
 {
     Abre("reg", "pla", "nueva");
-    Pulsa("cmdOK");
+    Acepta();
     EXPECT_EQ(Tools(), "0\r\n" + carpeta.Ruta("reg") + "\r\n" + carpeta.Ruta("pla") + "\r\n" +
                            carpeta.Ruta("nueva") + "\r\n2\r\n\"Uno=/opt/u, v\"\r\n\"A=\"\"b\"\"\"\r\n");
     EXPECT_FALSE(frmDirect::unica.Cargado());
@@ -89,13 +75,13 @@ TEST_F(frmDirectTest, AceptarReescribeElFicheroConSusHerramientas)
     carpeta.Escribe("ini/tools.ini", "1\r\n/x\r\n/y\r\n");
     Abre("nueva", "pla", "apl");
     cajas.Espera("Error 62: Input past end of file", Icono::Critico);
-    Pulsa("cmdOK");
+    Acepta();
     EXPECT_EQ(store.DirDatos, carpeta.Ruta("nueva"));
     EXPECT_TRUE(frmDirect::unica.Cargado());
     EXPECT_EQ(Tools(), "1\r\n/x\r\n/y\r\n");
 }
 
-TEST_F(frmDirectTest, ListaYUnidadLlenanSuCampo)
+TEST_F(frmDirectTest, AListOrADriveFillsAnotherField)
 {
     store.DirDatos += '/';
     frmDirect::unica.CargaNueva().show();
@@ -116,7 +102,7 @@ TEST_F(frmDirectTest, ListaYUnidadLlenanSuCampo)
     EXPECT_EQ(Campo("txtplantillas"), "nueva");
 }
 
-TEST_F(frmDirectTest, CarpetasPerdidasAvisanUnaVezYEscapeNoCambiaNada)
+TEST_F(frmDirectTest, LostFoldersAreToldMoreThanOnceOrEscapeChangesThem)
 {
     store.DirDatos = store.DirPlantillas = carpeta.Ruta("falta");
     cajas.Espera("Error 76: Path not found", Icono::Critico);

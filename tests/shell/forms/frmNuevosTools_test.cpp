@@ -2,8 +2,6 @@
 
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
-#include <QTest>
 
 #include "platform/ficheros.h"
 #include "platform/forms/ListaCarpetas.h"
@@ -70,20 +68,15 @@ TEST_F(HerramientasMenu, AToolIsAddedAgainstAMessageOrByAnotherPath)
     EXPECT_FALSE(Da<ListaClic>("List1")->isEnabled());
     PonTools("1", {"Calc=/de/fuera.exe"});  // the file of the moment counts
     Acepta(Textos(232));
-    nombre->setText("Calc\n");
-    ruta->setText("/x/VELD\nIX.EXE");
-    Acepta(Textos(261));
     Da<ListaCarpetas>("Dir1")->Pon(c.Ruta());
     EXPECT_EQ(ruta->text(), Q(c.Ruta()));
-    Acepta(Textos(233));
     Da<ListaCarpetas>("Dir1")->Pon(c.Ruta("d"));
     auto* ficheros = Da<ListaFicheros>("File1");
     ficheros->setCurrentItem(ficheros->findItems("calc.exe", Qt::MatchExactly).value(0));
     EXPECT_EQ(ruta->text(), Q(uno));
+    nombre->setText("Calc\n");
     Acepta(Textos(234));
     nombre->setText("A=B");
-    ruta->setText("/de/fuera.exe");
-    Acepta(Textos(235));
     ruta->setText("\"/a b/x.exe\" -r y.EXE");
     Accion("mnuCerrarComtrade")->trigger();  // what the window is for stays
     QTest::keyClick(nombre, Qt::Key_Return);

@@ -2,9 +2,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QTest>
 
-#include "shell/forms/FrmMenu.h"
 #include "shell/forms/Mensaje.h"
 #include "shell/forms/frmDirect.h"
 #include "shell/forms/gasolino.h"
@@ -148,46 +146,41 @@ TEST_F(Inicio, DamagedSettingsStopTheProgramOrAreCut)
     EXPECT_EQ(U(cmdSalir()->text()), "Exit") << "settings that need no change were to be written";
 }
 
+/// On a form the letter of the language, on the strip either letter, on a message box none.
 TEST_F(Inicio, ExitKeyAnswersInTheWrongLanguageOrShiftState)
 {
     constexpr auto kAlt = Qt::AltModifier;
-    const struct {
-        const char* idioma;  ///< line 1 of tools.ini
-        Qt::Key tecla;
-        Qt::KeyboardModifiers estado;
-        bool enForm, enPrincipal;  ///< whether it asks to leave
-    } pulsaciones[] = {{"1", Qt::Key_S, kAlt, true, true},
-                       {"1", Qt::Key_X, kAlt, false, true},
-                       {"0", Qt::Key_X, kAlt, true, true},
-                       {"2", Qt::Key_S, kAlt, false, true},
-                       {"1", Qt::Key_S, kAlt | Qt::ShiftModifier, false, false}};
     Arranca(c.Ruta("d/rec.dat"));
     frmNewOndas& selector = frmNewOndas::unica.CargaNueva();
     selector.show();
     QMessageBox caja(QMessageBox::Critical, "VELDIX", "aviso", QMessageBox::Ok, &selector);
-    enum { kForm, kPrincipal, kCaja };
+    QWidget* lista = Hijo<QListWidget>("List1", &selector);
     const struct {
-        const char* donde;
         QWidget* foco;
-        int clase;
-    } focos[] = {{"frame of the menu", &Menu()->Ventana(), kForm},
-                 {"list of a chooser", Hijo<QListWidget>("List1", &selector), kForm},
-                 {"strip", cmdSalir(), kPrincipal},
-                 {"main window", principal.get(), kPrincipal},
-                 {"message box", caja.button(QMessageBox::Ok), kCaja}};
-    for (const auto& f : focos) {
-        if (f.clase == kCaja) caja.open();
-        for (const auto& p : pulsaciones) {
-            SCOPED_TRACE(testing::Message() << f.donde << ", row " << &p - pulsaciones);
-            PonTools(p.idioma);
-            f.foco->window()->activateWindow();
-            f.foco->setFocusPolicy(Qt::StrongFocus);
-            f.foco->setFocus();
-            ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == f.foco; }, 1000));
-            if (f.clase == kForm ? p.enForm : f.clase == kPrincipal && p.enPrincipal) EsperaSalir(false);
-            QTest::keyClick(f.foco, p.tecla, p.estado);
-            EXPECT_EQ(cajas->Pendientes(), 0U);
-        }
+        const char* idioma;  ///< line 1 of tools.ini
+        Qt::Key tecla;
+        Qt::KeyboardModifiers estado;
+        bool pregunta;
+    } pulsaciones[] = {{&Menu()->Ventana(), "1", Qt::Key_S, kAlt, true},
+                       {lista, "1", Qt::Key_S, kAlt, true},
+                       {lista, "1", Qt::Key_X, kAlt, false},
+                       {lista, "0", Qt::Key_X, kAlt, true},
+                       {lista, "2", Qt::Key_S, kAlt, false},
+                       {cmdSalir(), "1", Qt::Key_X, kAlt, true},
+                       {cmdSalir(), "2", Qt::Key_S, kAlt, true},
+                       {cmdSalir(), "1", Qt::Key_S, kAlt | Qt::ShiftModifier, false},
+                       {caja.button(QMessageBox::Ok), "1", Qt::Key_S, kAlt, false}};
+    for (const auto& p : pulsaciones) {
+        SCOPED_TRACE(testing::Message() << "row " << &p - pulsaciones);
+        if (p.foco->window() == &caja) caja.open();
+        PonTools(p.idioma);
+        p.foco->window()->activateWindow();
+        p.foco->setFocusPolicy(Qt::StrongFocus);
+        p.foco->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == p.foco; }, 1000));
+        if (p.pregunta) EsperaSalir(false);
+        QTest::keyClick(p.foco, p.tecla, p.estado);
+        EXPECT_EQ(cajas->Pendientes(), 0U);
     }
     caja.close();
     fs::remove(c.Ruta("VELDIX/ini/tools.ini"));

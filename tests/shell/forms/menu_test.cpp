@@ -1,11 +1,9 @@
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
-#include <QTest>
 
-#include "platform/forms/dialogo_fichero.h"
 #include "shell/forms/frmDirect.h"
 #include "support/arbol.h"
+#include "templates/forms/frmPlantilla.h"
 #include "waves/forms/frmNewOndas.h"
 
 namespace veldix {
@@ -21,7 +19,6 @@ constexpr const char* k70 = "Error 70: Permission denied";
 class MenuPrincipal : public prueba::Arbol {
 protected:
     MenuPrincipal() { Reinicia({}); }
-    ~MenuPrincipal() override { PonDialogoFichero(nullptr); }
     void Reinicia(const std::vector<std::string>& herramientas)
     {
         PonTools("1", herramientas);
@@ -260,6 +257,7 @@ TEST_F(MenuPrincipal, FailedOpenLosesTheEarlierRecord)
         cajas->Espera(caja, Icono::Ninguno);
         AbreRegistro(dat);
         EXPECT_EQ(estado(), antes) << dat;
+        EXPECT_FALSE(frmPlantilla::unica.Cargado()) << "a template is asked for";
     }
 }
 

@@ -1,7 +1,5 @@
 #include <QCheckBox>
 #include <QLabel>
-#include <QPushButton>
-#include <QTest>
 
 #include <cmath>
 #include <numbers>
@@ -10,12 +8,9 @@
 #include "analysis/forms/frmFases.h"
 #include "analysis/forms/frmSecuencias.h"
 #include "platform/forms/ListaCarpetas.h"
-#include "platform/forms/dialogo_fichero.h"
-#include "platform/forms/impresion.h"
 #include "shell/forms/Cancelar.h"
-#include "shell/forms/FrmMenu.h"
 #include "support/arbol.h"
-#include "support/grabadora.h"
+#include "support/imprime.h"
 #include "templates/forms/frmPlantilla.h"
 #include "waves/forms/frmNewOndas.h"
 #include "waves/forms/frmTodoanalog.h"
@@ -36,7 +31,6 @@ protected:
                              "1%2%3%Intensidades%1$|-----"));
         Arranca();
     }
-    ~Viaje() override { PonDialogoFichero(nullptr); }
 
     /// Two cycles of a balanced system of 100 A, 20 samples a cycle, whole numbers in thousandths.
     void Seno(const std::string& nombre, const std::string& formato) const
@@ -52,18 +46,6 @@ protected:
             }
         }
         Registro(nombre, cfg + "50|1|1000,40|fecha|fecha|" + formato, dat.c_str());
-    }
-    void Abre(const std::string& dat)
-    {
-        PonDialogoFichero([=, this](const PeticionFichero&) { return std::optional(c.Ruta("d/") + dat); });
-        Accion("mnuAbrirComtrade")->trigger();
-        QTest::qWait(1);
-    }
-    void Pulsa(const char* boton, Formulario* form)
-    {
-        QTest::mouseClick(Hijo<QPushButton>(boton, form), Qt::LeftButton);
-        QTest::qWait(1);
-        EXPECT_EQ(cajas->Pendientes(), 0U);
     }
     /// Chooses the template of the tree in the dialog that stands, by the keyboard alone.
     void EligePlantilla()
@@ -88,13 +70,12 @@ protected:
         QTest::qWait(1);
         EXPECT_FALSE(frmFasecuencias::unica.Cargado());
     }
-    static bool MenuALaVista() { return FrmMenu::unica.Cargado()->Ventana().isVisible(); }
 };
 
 TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
 {
     const prueba::Separa punto(".", "");
-    Abre("seno.dat");
+    AbreRegistro("d/seno.dat");
     EXPECT_FALSE(Accion("mnuFasores")->isEnabled());
     EligePlantilla();
     EXPECT_FALSE(frmPlantilla::unica.Cargado());
@@ -112,7 +93,7 @@ TEST_F(Viaje, RecordDoesNotReachItsPhasorsOrTheyCannotBeLeft)
     EXPECT_EQ(Hijo<QLabel>("lblNumero", fases)->text(), Q(Textos(266) + "1"));
     Pulsa("cmdSalir", nullptr);
     EXPECT_FALSE(frmFases::unica.Cargado());
-    EXPECT_TRUE(MenuALaVista() && FrmMenu::unica.Cargado()->Ventana().isMaximized());
+    EXPECT_TRUE(MenuALaVista());
     EXPECT_TRUE(frmPlantilla::unica.Cargado()->isVisible());
     frmPlantilla::unica.Descarga();
 
@@ -149,10 +130,10 @@ public:
 
 TEST_F(Viaje, APressOfCancelarWhileAPageIsDrawnIsLost)
 {
-    Abre("seno.dat");
+    AbreRegistro("d/seno.dat");
     EligePlantilla();
     const auto impresora = std::make_shared<Lenta>();
-    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 3, false}; });
+    const prueba::Imprime imprime(3, impresora);
     Accion("mnuCanalog")->trigger();
     auto* lista = Hijo<QListWidget>("List1", frmNewOndas::unica.Cargado());
     Q_EMIT lista->itemDoubleClicked(lista->item(0));
@@ -163,22 +144,24 @@ TEST_F(Viaje, APressOfCancelarWhileAPageIsDrawnIsLost)
     EXPECT_FALSE(Cancelar::unica.Cargado());
     Pulsa("pctimpresora", frmTodoanalog::unica.Cargado());
     EXPECT_EQ(impresora->paginas, 4);  // nothing is left of the press
-    PonDialogoImpresion({});
     Pulsa("cmdSalir", nullptr);
     EXPECT_TRUE(MenuALaVista());
 }
 
-TEST_F(Viaje, TemplateIsAskedForBehindABinaryOrARefusedRecord)
+/// A template of more channels than the record, which the menu brings up beside the chooser of waves.
+TEST_F(Viaje, AChooserOutlivesTheChannelsThatATemplateTookAway)
 {
-    Seno("binario", "BINARY");
-    Abre("binario.dat");
-    EXPECT_FALSE(frmPlantilla::unica.Cargado());
-    Registro("anio", Cfg("OTRA,R,1999", "1", "ASCII"));
-    cajas->Espera(".cfg COMTRADE file is not OK, you must check the year of revision ", Icono::Ninguno);
-    Abre("anio.dat");
-    EXPECT_FALSE(frmPlantilla::unica.Cargado());
+    c.Escribe("t.cnf", ConFinales("ver 1.1|X|ANALOGICOS|4|1%a%%A$|2%b%%A$|3%c%%A$|4%d%%A$|-----"));
+    AbreRegistro("d/seno.dat");
+    frmPlantilla::unica.Descarga();
+    Accion("mnuCanalog")->trigger();
+    ASSERT_TRUE(frmNewOndas::unica.Cargado());
     Accion("mnuPlantilla")->trigger();
-    EXPECT_TRUE(frmPlantilla::unica.Cargado() && frmPlantilla::unica.Cargado()->isVisible());
+    cajas->Espera(Textos(253), Icono::Critico);
+    EligePlantilla();
+    EXPECT_EQ(cajas->Pendientes(), 0U);
+    EXPECT_FALSE(frmNewOndas::unica.Cargado());
+    EXPECT_EQ(store.NombreEstacion, "SE");
 }
 
 }  // namespace

@@ -42,6 +42,10 @@ protected:
     {
         frmPlantilla::unica.Descarga();
         AbandonaPaginas();
+        escena = Escena{};
+        ganchosRegistro = {};
+        store = RecordStore{};
+        VaciaTextos();
     }
     std::string Leida(const char* nombre) const { return LeeTodo(c.Ruta("pla/") + nombre); }
     /// The name of the page in sight.

@@ -46,8 +46,13 @@ TEST_F(Trifasicos, SelectionChecksInAnotherOrderOrLeavesAnotherState)
     EXPECT_TRUE(!frmPlantilla::unica.Cargado() && store.NumCanalAnalog == 0 && hecho == "session menu ");
 }
 
-TEST_F(Trifasicos, SlotsDifferFromTheWorkedExampleOrAMissingPhasePasses)
+TEST_F(Trifasicos, AssigningOverwritesOrSkipsAPhaseOrAMissingOnePasses)
 {
+    c.Escribe("pla/hueco.cnf", ConFinales(kCabeza + "|TRIFASICOS|1|1%0%3%L%$"));
+    frmPlantilla::unica.Muestra();
+    Abre("hueco.cnf");  // its second phase was never filled
+    EXPECT_EQ(Pagina() + Puestas("1"), "frmTrifasic*1,,3");
+    frmPlantilla::unica.Muestra();
     Abre("p.cnf");
     Asigna("ListTrif1", {1});  // not in use: takes nothing
     Teclea("txtnumTrif", "1");

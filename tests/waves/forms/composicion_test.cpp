@@ -18,15 +18,6 @@ protected:
         Elige(elector, filas);
     }
     static void Acepta() { Pulsa("cmdOK", frmNewCompanalog::unica.Cargado()); }
-    static std::vector<OperacionLienzo> Curvas(frmVerCmpang* v)
-    {
-        std::vector<OperacionLienzo> ops;
-        v->Plot()->PonGrabadora(&ops);
-        Estira(v);
-        v->Plot()->PonGrabadora(nullptr);
-        std::erase_if(ops, [](const auto& o) { return o.tipo != OperacionLienzo::Tipo::Poligonal; });
-        return {ops.end() - static_cast<std::ptrdiff_t>(v->Canales().size()), ops.end()};
-    }
 };
 
 TEST_F(ComposicionTest, NothingChosenStaysAndCancelLeavesTheMenu)
@@ -49,15 +40,12 @@ TEST_F(ComposicionTest, ThirdWindowAloneIsCaptionedAsTheFirstAndCurvesShareAScal
     frmVerCmpang* v = store.VentanaComp(3);
     ASSERT_TRUE(v && store.CompAbierta && !menu && store.NumVentanasComp == 1);
     EXPECT_EQ(U(v->windowTitle()), "Ventana 1");
-    const auto curvas = Curvas(v);
+    const auto curvas = De(Graba(v), Tipo::Poligonal);
+    ASSERT_EQ(curvas.size(), 6U);
     const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), escala = (h - 2 * h / 50) / 2 / 120;
-    const std::uint32_t colores[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x000080, 0x800080, 0xFF00FF};
-    for (std::size_t k = 0; k < 6; ++k) {
-        const int columna = k == 1 ? 3 : (k == 2 ? 2 : static_cast<int>(k) + 1);
-        EXPECT_NEAR(curvas[k].xs.back(), 959 * w * 48 / 50 / 960 + w / 50, 0.1);
-        EXPECT_NEAR(curvas[k].ys.back(), h / 2 - Valor(960, columna) * escala, 0.1) << k;
-        EXPECT_EQ(curvas[k].color & 0xFFFFFFU, colores[k]) << k;
-    }
+    EXPECT_NEAR(curvas[1].xs.back(), 959 * w * 48 / 50 / 960 + w / 50, 0.1);
+    EXPECT_NEAR(curvas[1].ys.back(), h / 2 - Valor(960, 3) * escala, 0.1);  // row 2 is column 3
+    EXPECT_EQ(curvas[5].color & 0xFFFFFFU, 0xFF00FFU);
     Da<QScrollBar>("HScroll2", v)->setValue(22);
     EXPECT_EQ(Texto("Label1", v) + Texto("Label2", v), " No.: 1 No.: 22");
     EXPECT_EQ(Texto("lblci2", v), "I2: " + std::to_string(Valor(22, 3)) + ",000 A");

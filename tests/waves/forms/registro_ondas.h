@@ -1,17 +1,10 @@
 #pragma once
 
 #include <QListWidget>
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QPushButton>
-#include <QTest>
 
 #include <algorithm>
 
-#include "platform/forms/escena.h"
-#include "platform/textos.h"
-#include "record/record_store.h"
-#include "support/soporte.h"
+#include "support/escenario.h"
 #include "waves/forms/VistaCursores.h"
 
 namespace veldix::prueba {
@@ -21,34 +14,15 @@ inline int Valor(int i, int c)
     return c * ((i * 7) % 41 - 20);
 }
 
-/// A main window with its area, the menu as a flag, and a made-up record of channels I1, I2, ...
-class RegistroOndas : public testing::Test {
+/// The scene with a gauge that tells its steps and a made-up record of channels I1, I2, ...
+class RegistroOndas : public Escenario {
 protected:
     RegistroOndas()
     {
-        store = RecordStore{};
-        store.AnchoPantalla = 15360.0, store.AltoPantalla = 11520.0;
-        CargaTextos(VELDIX_SOURCE "/runtime/VELDIX/ini/vdotro.ini");
-        principal.setCentralWidget(area);
-        principal.resize(1024, 768);
-        principal.show();
-        escena.principal = &principal;
-        escena.area = area;
-        escena.muestraMenu = [this] { ++muestras, menu = true; };
-        escena.ocultaMenu = [this] { menu = false; };
         escena.muestraGasolinoOndas = [this](const QString& t) { avance += "[" + U(t); };
         escena.ponGasolinoOndas = [this](int v) { avance += " " + std::to_string(v); };
         escena.descargaGasolinoOndas = [this] { avance += "]"; };
         Registro(960);
-    }
-    ~RegistroOndas() override
-    {
-        for (Formulario* f : principal.findChildren<Formulario*>())
-            f->Descarga();
-        Asienta();
-        escena = Escena{};
-        store = RecordStore{};
-        VaciaTextos();
     }
 
     /// Nine channels; rows 2 and 3 of the table are columns 3 and 2.
@@ -74,28 +48,6 @@ protected:
         ReiniciaRegistro(store);
     }
 
-    static void Asienta()
-    {
-        QTest::qWait(0);
-        QTest::qWait(0);
-    }
-    /// A control of a form.
-    template <class Control>
-    static Control* Da(const std::string& nombre, QWidget* form)
-    {
-        Control* c = form ? form->findChild<Control*>(Q(nombre)) : nullptr;
-        if (!c) throw std::runtime_error("no control " + nombre);
-        return c;
-    }
-    static std::string Texto(const char* etiqueta, QWidget* form)
-    {
-        return U(Da<QLabel>(etiqueta, form)->text());
-    }
-    static void Pulsa(const char* boton, QWidget* form)
-    {
-        QTest::mouseClick(Da<QPushButton>(boton, form), Qt::LeftButton);
-        Asienta();
-    }
     /// Double-clicks rows of a chooser's list.
     static void Elige(QWidget* elector, std::initializer_list<int> filas)
     {
@@ -139,7 +91,8 @@ protected:
         Da<QScrollBar>("HScroll2", v)->setValue(c2);
     }
     /// Range of the bars, both cursors, level and levels.
-    static std::vector<int> Estado(VistaCursores* v)
+    template <class UnaVista>
+    static std::vector<int> Estado(UnaVista* v)
     {
         const auto *una = Da<QScrollBar>("HScroll1", v), *otra = Da<QScrollBar>("HScroll2", v);
         return {una->minimum(),  una->value(),        otra->value(),
@@ -158,13 +111,25 @@ protected:
     }
     static double LineaX(const char* nombre, VistaOndas* v) { return 15.0 * Da<LineaSobre>(nombre, v)->x(); }
 
-    QMainWindow principal;
-    QMdiArea* area = new QMdiArea;
-    RespondeCajas cajas;
+    /// What a view draws when it is asked to.
+    static std::vector<OperacionLienzo> Graba(VistaOndas* v)
+    {
+        std::vector<OperacionLienzo> ops;
+        v->Plot()->PonGrabadora(&ops);
+        Q_EMIT v->Plot()->PideDibujo();
+        v->Plot()->PonGrabadora(nullptr);
+        return ops;
+    }
+    using Tipo = OperacionLienzo::Tipo;
+    static std::vector<OperacionLienzo> De(const std::vector<OperacionLienzo>& ops, Tipo tipo)
+    {
+        std::vector<OperacionLienzo> suyas;
+        std::ranges::copy_if(ops, std::back_inserter(suyas), [&](const auto& o) { return o.tipo == tipo; });
+        return suyas;
+    }
+
     Separa separa{",", "."};
     std::string avance;
-    bool menu = true;
-    int muestras = 0;
 };
 
 }  // namespace veldix::prueba

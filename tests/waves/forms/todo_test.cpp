@@ -1,7 +1,6 @@
 #include <QTimer>
 
-#include "platform/forms/impresion.h"
-#include "support/grabadora.h"
+#include "support/imprime.h"
 #include "waves/forms/frmNewOndas.h"
 #include "waves/forms/frmTodoanalog.h"
 #include "waves/forms/registro_ondas.h"
@@ -37,11 +36,7 @@ TEST_F(TodoTest, EightBandsShowTheirRowsValuesAndTheirColumnsCurves)
     ASSERT_TRUE(v && v->isVisible() && !menu && !frmNewOndas::unica.Cargado());
     EXPECT_EQ(avance, "[Preparando las ondas... 5 20 40]");
     EXPECT_EQ(U(v->windowTitle()), "Canales Analógicos");
-    std::vector<OperacionLienzo> ops;
-    v->Plot()->PonGrabadora(&ops);
-    v->Ventana().resize(v->Ventana().width() - 1, v->Ventana().height());
-    Asienta();
-    v->Plot()->PonGrabadora(nullptr);
+    const auto ops = Graba(v);
     ASSERT_EQ(ops.size(), 1U + 9U + 8U);
     const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), banda = h / 8 + 1;
     const OperacionLienzo& vertical = ops[1];
@@ -92,24 +87,17 @@ TEST_F(TodoTest, ZoomsBetweenTheCursorsAndTellsItsEnds)
     EXPECT_EQ(Estado(v), todo);
 
     Cursores(v, 401, 201);
-    std::vector<OperacionLienzo> ops;
-    v->Plot()->PonGrabadora(&ops);
     Pulsa("cmdzoom", v);
     EXPECT_EQ(Estado(v), (std::vector{201, 201, 201, 401, 1, 2}));
-    ASSERT_EQ(ops.back().xs.size(), 200U);  // the last sample is not joined
-    const double w = v->Plot()->Ancho();
-    EXPECT_NEAR(ops.back().xs.back(), 199 * (w - 100) / 200 + 50, 0.1);
+    ASSERT_EQ(Graba(v).back().xs.size(), 200U);  // the last sample is not joined
     Da<QScrollBar>("HScroll2", v)->setValue(401);
-    EXPECT_NEAR(LineaX("lnci", v), w - 100, 15);
+    EXPECT_NEAR(LineaX("lnci", v), v->Plot()->Ancho() - 100, 15);
     Pulsa("cmdatras", v);
     EXPECT_EQ(Estado(v), (std::vector{1, 1, 1, 960, 0, 2}));
-    EXPECT_EQ(ops.back().xs.size(), 959U);  // now the zoom's rule holds for the whole record too
-    EXPECT_NEAR(ops.back().xs.back(), 958 * (w - 100) / 959 + 50, 0.1);
+    EXPECT_EQ(Graba(v).back().xs.size(), 959U);  // now the zoom's rule holds for the whole record too
     Pulsa("cmdadel", v);
     EXPECT_EQ(Estado(v), (std::vector{201, 201, 201, 401, 1, 2}));
-    v->Plot()->PonGrabadora(nullptr);
-    v->Ventana().resize(v->Ventana().width() - 1, v->Ventana().height());
-    Asienta();
+    Estira(v);
     EXPECT_EQ(Estado(v), todo);
 }
 
@@ -145,18 +133,12 @@ TEST_F(TodoTest, TheThirtyFirstZoomAndABadColumnCloseTheWindow)
 /// Copies of a page, what the user does before each, and what the view is meanwhile.
 TEST_F(TodoTest, CancelarEndsAPrintBehindTheCopiesThatWereDrawn)
 {
-    using Tipo = prueba::OperacionPagina::Tipo;
+    using Papel = prueba::OperacionPagina::Tipo;
     frmTodoanalog* v = Abre({1, 2});
-    auto impresora = std::make_shared<prueba::Grabadora>();
+    prueba::Imprime imprime(3);
+    const prueba::Grabadora* impresora = imprime.impresora.get();
     int copia = 0, cancelaEn = 0, tira = 0;
-    bool activa = true, cancela = false;
-    PonDialogoImpresion([&]() -> std::optional<PeticionImpresion> {
-        impresora->ops.clear();
-        impresora->sentido = Orientacion::Vertical;
-        copia = 0;
-        if (cancela) return std::nullopt;
-        return PeticionImpresion{impresora, 3, false};
-    });
+    bool activa = true;
     escena.muestraCancelar = [&] {
         activa = activa && v->isEnabled();
         if (++copia == cancelaEn) QTimer::singleShot(0, v, [] { store.CancelaImpresion = true; });
@@ -170,36 +152,33 @@ TEST_F(TodoTest, CancelarEndsAPrintBehindTheCopiesThatWereDrawn)
     for (const auto& c : casos) {
         cancelaEn = c.cancelaEn;
         activa = true;
+        copia = 0;
         Pulsa("pctimpresora", v);
-        EXPECT_EQ(impresora->De(Tipo::Pagina).size(), c.paginas);
-        EXPECT_EQ(impresora->De(Tipo::Recorte).size() * 2, c.curvas);
-        EXPECT_EQ(impresora->De(Tipo::Termina).size(), 1U);
+        EXPECT_EQ(impresora->De(Papel::Pagina).size(), c.paginas);
+        EXPECT_EQ(impresora->De(Papel::Recorte).size() * 2, c.curvas);
+        EXPECT_EQ(impresora->De(Papel::Termina).size(), 1U);
         EXPECT_EQ(impresora->sentido, Orientacion::Horizontal);
         EXPECT_TRUE(!activa && v->isEnabled() && tira >= 0);
     }
-    cancela = true;
+    imprime.copias = 0;
     Pulsa("pctimpresora", v);
     EXPECT_TRUE(impresora->ops.empty());
-    cancela = false;
-    cancelaEn = 0;
+    imprime.copias = 3;
     store.FrecMuestras(1) = 0;
     cajas.Espera("Error 11: Division by zero", Icono::Critico);
     Pulsa("pctimpresora", v);
-    EXPECT_EQ(impresora->De(Tipo::Termina).size(), 1U);
+    EXPECT_EQ(impresora->De(Papel::Termina).size(), 1U);
     EXPECT_TRUE(frmTodoanalog::unica.Cargado() && v->isEnabled());
-    PonDialogoImpresion({});
 }
 
 TEST_F(TodoTest, AViewThatGoesWhileItMayBeCancelledPrintsNothing)
 {
     frmTodoanalog* v = Abre({1});
-    auto impresora = std::make_shared<prueba::Grabadora>();
-    PonDialogoImpresion([&] { return PeticionImpresion{impresora, 2, false}; });
+    const prueba::Imprime imprime(2);
     escena.muestraCancelar = [&] { v->Descarga(); };
     Pulsa("pctimpresora", v);
-    EXPECT_TRUE(impresora->De(prueba::OperacionPagina::Tipo::Poligonal).empty());
+    EXPECT_TRUE(imprime.impresora->De(prueba::OperacionPagina::Tipo::Poligonal).empty());
     EXPECT_TRUE(menu);
-    PonDialogoImpresion({});
 }
 
 }  // namespace
