@@ -210,6 +210,16 @@ TEST_F(OndasTest, ABoxZoomsInEveryDirectionAndOnlyWhenArmedAndConfirmed)
         EXPECT_EQ(Estado(v), todo);
         EXPECT_EQ(store.FactorZoomY, 1.0F);
     }
+    Cursores(v, 300, 200);
+    Pulsa("cmdzoom", v);
+    QTest::keyClick(v->Plot(), Qt::Key_Escape);
+    QTest::keyClick(v->Plot(), Qt::Key_Return);  // no longer armed: no question
+    EXPECT_EQ(v->Plot()->cursor().shape(), Qt::ArrowCursor);
+    EsperaAmpliar(true);
+    Pulsa("cmdzoom", v);
+    QTest::keyClick(v->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Estado(v), (Vistos{200, 200, 200, 300, 1, 2})) << "from cursor to cursor, by the keys alone";
+    Estira(v);
     Amplia(v, {200, 100}, {400, 200});
     menu = true;
     v->Ventana().showMinimized();
