@@ -122,6 +122,9 @@ QPainter& ImpresoraQt::Pintor()
 {
     if (!pintor_.isActive()) {
         if (!pintor_.begin(&dispositivo_)) Lanza(error::kEntradaSalida);
+        // The device keeps the pen of its last document, and is told of a change alone.
+        pintor_.setPen(Qt::NoPen);
+        pintor_.setPen(Qt::black);
         pintor_.scale(dispositivo_.logicalDpiX() / kTwipsPorPulgada,
                       dispositivo_.logicalDpiY() / kTwipsPorPulgada);
     }

@@ -24,10 +24,10 @@ void OrdenaTeclas(std::initializer_list<QWidget*> bloques)
 
 bool CabeEnPantalla(QWidget& ventana)
 {
-    constexpr QSize kMarco(8, 40);  // of a window, with its title
     const QScreen* pantalla = ventana.screen();
     if (!pantalla || !ventana.layout()) return false;
-    const QSize libre = pantalla->availableSize() - kMarco, pide = ventana.layout()->totalMinimumSize();
+    const QSize libre = pantalla->availableSize() - kMarcoVentana,
+                pide = ventana.layout()->totalMinimumSize();
     if (pide.width() <= libre.width() && pide.height() <= libre.height()) return false;
     auto* area = new QScrollArea(&ventana);
     area->setFrameShape(QFrame::NoFrame);

@@ -6,6 +6,9 @@
 
 namespace veldix {
 
+/// Room that a window manager's frame and title take of a screen, in logical pixels.
+inline constexpr QSize kMarcoVentana(8, 40);
+
 /// The order in which the tab key goes through a form: block after block, within a block the controls as they
 /// were made.
 void OrdenaTeclas(std::initializer_list<QWidget*> bloques);

@@ -166,14 +166,17 @@ void FrmMenu::mnuIngles_Click()
     if (store.Idioma != 0) CambiaIdioma(0);
 }
 
+/// Where it fails the language stays, so that the command can be given again.
 void FrmMenu::CambiaIdioma(std::int16_t idioma)
 {
+    const std::int16_t antes = store.Idioma;
     store.Idioma = idioma;
-    Atrapa(this, [this, idioma] {
+    const bool hecho = Atrapa(this, [this, idioma] {
         CambiaIdiomaFicheros(store, idioma);
         LeeTextos();
         PonRotulos();
     });
+    if (!hecho) store.Idioma = antes;
 }
 
 void FrmMenu::mnuSalir_Click()

@@ -13,6 +13,7 @@
 #include "analysis/forms/frmFases.h"
 #include "analysis/forms/frmSecuencias.h"
 #include "platform/ficheros.h"
+#include "platform/forms/disposicion.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/formulario.h"
 #include "platform/forms/iconos.h"
@@ -181,7 +182,7 @@ void MDIForm1::MDIForm_Load()
         const QRect libre = QApplication::primaryScreen()->availableGeometry();
         store.AltoPantalla = ATwips(libre.height());
         store.AnchoPantalla = ATwips(libre.width());
-        resize(libre.size());
+        resize(libre.size() - kMarcoVentana);  // where it is restored, its strip is still on the screen
         move(libre.topLeft());
         store.DirIni = RutaIni(store.RutaPrograma);
         CargaPaginaCodigos(UneRuta(store.DirIni, "perfil.ini"));

@@ -129,6 +129,36 @@ TEST(EtiquetasCorridas, TextsAreCutByCharactersAndTheRangeOnlyGrows)
     EXPECT_EQ(otra->toolTip(), "<qt>&lt;b&gt;x</qt>") << "a name that the toolkit reads as its mark-up";
 }
 
+/// The first stream of what a writer has put behind the octet `desde`: what is drawn on the page.
+QByteArray Trazos(const QByteArray& datos, qsizetype desde)
+{
+    desde = datos.indexOf("stream\n", desde) + 7;
+    QByteArray trozo = datos.mid(desde, datos.indexOf("endstream", desde) - desde);
+    trozo.prepend(QByteArray::fromHex("00FFFFFF"));  // the size that qUncompress wants, unknown
+    return qUncompress(trozo).simplified();
+}
+
+TEST(ImpresoraPdf, ATextHasTheColourOfTheDocumentBefore)
+{
+    const auto texto = [](bool roja) {
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        QPdfWriter escritor(&pdf);
+        ImpresoraQt impresora(escritor, ModoColor::Color);
+        if (roja) {
+            impresora.Linea(0.0, 0.0, 1000.0, 1000.0, 0xFF0000);
+            impresora.Termina();
+        }
+        const qsizetype desde = pdf.data().size();
+        impresora.Texto("header");
+        impresora.Termina();
+        return Trazos(pdf.data(), desde);
+    };
+    const QByteArray solo = texto(false);
+    EXPECT_GT(solo.size(), 20);
+    EXPECT_EQ(texto(true), solo);
+}
+
 /// The points of a curve zoomed as deep as the history goes, and the number of its last one on the page.
 TEST(ImpresoraPdf, ACurveFarOffThePageBreaksTheFile)
 {
@@ -142,11 +172,7 @@ TEST(ImpresoraPdf, ACurveFarOffThePageBreaksTheFile)
         impresora.PonRecorte(0.0, 0.0, 10000.0, 10000.0);
         impresora.Poligonal(xs, ys, 0);
         impresora.Termina();
-        const QByteArray datos = pdf.data();
-        const qsizetype desde = datos.indexOf("stream\n") + 7;
-        QByteArray trozo = datos.mid(desde, datos.indexOf("endstream", desde) - desde);
-        trozo.prepend(QByteArray::fromHex("00FFFFFF"));  // the size that qUncompress wants, unknown
-        const QList<QByteArray> palabras = qUncompress(trozo).simplified().split(' ');
+        const QList<QByteArray> palabras = Trazos(pdf.data(), 0).split(' ');
         double mayor = 0.0;
         for (const QByteArray& palabra : palabras)
             mayor = std::max(mayor, std::abs(palabra.toDouble()));
