@@ -7,6 +7,7 @@
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "record/avance.h"
+#include "record/disparo.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -130,6 +131,41 @@ TEST(DemonstrationRecords, FormsDifferOrLeaveTheToldStory)
     EXPECT_NEAR(Eficaz(a.MuestrasSec, 6, 401), 251.0 / 800, 0.001);
     EXPECT_EQ(a.MuestrasDig(356, 8), 0) << "trip";
     EXPECT_EQ(a.MuestrasDig(357, 8), 1) << "trip";
+}
+
+TEST(Disparo, IsAnotherSampleOrOneOfADateThatCannotBeRead)
+{
+    RecordStore s;
+    s.FrecMuestras = Tabla1<std::int16_t>(1);
+    s.FrecMuestras(1) = 1000;
+    s.Muestras = Tabla2<float>(100, 1);
+    const struct {
+        const char *revision, *inicio, *disparo;
+        int muestra;
+    } casos[] = {{"1997", "31/12/1999,23:59:59.990000", "01/01/2000,00:00:00.010400", 21},
+                 {"1991", "12/31/99,23:59:59.99", "01/01/00,00:00:00.01", 21},
+                 {"1991", "02/28/96,23:59:59.99", "02/29/96,00:00:00.0151", 26},
+                 {"1997", "02/28/1996,23:59:59", "02/29/1996,00:00:00", 0},
+                 {"1997", " 1/2/2003 , 4:05:06.5", "1/2/2003,4:5:6.4", 1},
+                 {"1997", "1/2/2003,4:05:06.5x", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "1/2/99999999999,4:5:6", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "nan/2/2003,4:5:6", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "99999999999/2/2003,4:5:6", "1/2/2003,4:5:6.6", 0},
+                 {"1997", "", "1/2/2003,4:5:6.6", 0}};
+    for (const auto& c : casos) {
+        s.RevisionCfg = c.revision;
+        s.FechaInicio = c.inicio;
+        s.FechaDisparo = c.disparo;
+        EXPECT_EQ(MuestraDeDisparo(s).value_or(0), c.muestra) << c.inicio;
+    }
+    s.FechaDisparo = "1/2/2003,4:5:6.505", s.FechaInicio = "1/2/2003,4:5:6.5";
+    s.Tiempos = Tabla1<float>(100);
+    s.TimeMult = 2;
+    for (int i = 1; i <= 100; ++i)
+        s.Tiempos(i) = static_cast<float>(7000 + 250 * i);
+    EXPECT_EQ(MuestraDeDisparo(s).value_or(0), 11);
+    s.FormatoDat = "ASCII";  // the multiplier is in the stamps
+    EXPECT_EQ(MuestraDeDisparo(s).value_or(0), 21);
 }
 
 }  // namespace

@@ -146,8 +146,7 @@ TEST(Vista, SizesOfEveryScreenWithADecimalComma)
     const struct {
         double twips;
         int ancho, alto, anchoVista, altoVista;  // pixels, and twips
-    } casos[] = {{15, 640, 480, 9527, 6117}, {15, 800, 600, 11940, 7920}, {15, 1024, 768, 15284, 10435},
-                 {12, 640, 480, 7621, 4894}, {12, 800, 600, 9527, 6261},  {12, 1024, 768, 12227, 8265}};
+    } casos[] = {{15, 640, 480, 9527, 6117}, {15, 1024, 768, 15284, 10435}, {12, 800, 600, 9527, 6261}};
     for (const auto& k : casos) {
         const TamanoVista v = MideVista({k.ancho * k.twips, k.alto * k.twips, k.twips});
         EXPECT_EQ(v.ancho, k.anchoVista) << k.ancho << ' ' << k.twips;

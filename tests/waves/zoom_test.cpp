@@ -29,8 +29,7 @@ struct Ventana {
     }
     std::string Pasa(int paso)
     {
-        z.NivelZoom = static_cast<std::int16_t>(z.NivelZoom + paso);
-        z.ZoomPendiente = false;
+        z.Mueve(paso);
         return Redibuja();
     }
     std::string Redibuja()

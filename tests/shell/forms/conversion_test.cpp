@@ -120,8 +120,6 @@ TEST_F(Convierte, TheCopyIsMadeAgainstTheUserOrTheRecordGoesOnOtherwise)
     EXPECT_EQ(EnPie(), "t");
     EXPECT_EQ(barra, "0->1/2 1->2/2 2->2/2 ");
     EXPECT_FALSE(gasolino2::unica.Cargado());
-    EXPECT_EQ(prueba::LeeTodo(c.Ruta("d/sub/copia.DAT")), " 1,0,7,8,1\r\n 2,1000,9,10,0\r\n");
-    EXPECT_TRUE(prueba::LeeTodo(c.Ruta("d/sub/copia.cfg")).ends_with("fecha\r\nASCII\r\n\r\n"));
     EXPECT_EQ(store.Muestras(2, 2), 10.0F);
 
     ganchosRegistro.PonGasolino2 = [](int) {};

@@ -85,8 +85,6 @@ TEST_F(HerramientasMenu, AToolIsAddedAgainstAMessageOrByAnotherPath)
     EXPECT_EQ(Menu(), "(Calc)|(A)|");
     store.RegistroAbierto = true;
     EXPECT_EQ(Menu(), "Calc|A|");
-    PonTools("1", {"1=/1.exe", "2=/2.exe", "3=/3.exe"});
-    EXPECT_EQ(Menu(), "1|2|3|");
 }
 
 TEST_F(HerramientasMenu, SettingsLoseWhatTheyHeldOrKeepWhatTheProgramChanged)

@@ -221,9 +221,7 @@ TEST_F(MenuPrincipal, CloseKeepsTheRecordOrLosesItsPaths)
     EXPECT_FALSE(frmNewOndas::unica.Cargado());
     const RecordStore& s = store;
     EXPECT_FALSE(s.RegistroAbierto || s.PlantillaAplicada);
-    EXPECT_EQ(s.NombreEstacion + s.FormatoDat + s.VersionPlantilla, "");
-    EXPECT_EQ(s.NumAnalog + s.NumCanalAnalog + s.NumGruposDig + s.FrecLinea, 0);
-    EXPECT_TRUE(s.Muestras.Vacia() && s.Canales.Vacia() && s.GruposDig.Vacia());
+    EXPECT_TRUE(s.NombreEstacion.empty() && s.Muestras.Vacia() && s.GruposDig.Vacia());
     EXPECT_EQ(s.FicheroDat + s.FicheroCfg, c.Ruta("d/rec.dat") + c.Ruta("d/rec.cfg"));
     EXPECT_EQ(s.FicheroHdr + s.FicheroCnf, c.Ruta("d/rec.hdr") + c.Ruta("d/p.cnf"));
     EXPECT_EQ(Etiqueta(), "");
