@@ -27,7 +27,7 @@ std::string UneRuta(std::string_view carpeta, std::string_view nombre);
 std::string CarpetaDe(std::string_view ruta);
 std::string NombreDe(std::string_view ruta);
 
-/// A text file as a whole. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where
+/// A file as a whole. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where
 /// its folder is, 70 where it may not be read, 57 where reading fails, 7 over 64 MiB.
 std::string LeeOctetos(const std::string& ruta);
 

@@ -1,10 +1,8 @@
 #include "waves/pagina_ondas.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/enteros.h"
-#include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "waves/marcas_pagina.h"
