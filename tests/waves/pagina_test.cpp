@@ -90,7 +90,7 @@ TEST(PaginaOndas, LevelsAreReplayedOnThePaperWithTheirTicks)
 
 TEST(PaginaOndas, TimeTicksThinOutAndEndWhereTheyMustNotRunForever)
 {
-    const MedidasOndas m = MideOndas(20000.0, 15000.0);
+    const MedidasHoja m = MideOndas(20000.0, 15000.0);
     EXPECT_EQ(m.marco.izquierda, 180.0);
     EXPECT_EQ(m.marco.derecha, 18840.0);
     EXPECT_EQ(m.marco.abajo, 14175.0);
