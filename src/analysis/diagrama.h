@@ -41,7 +41,7 @@ public:
     float Zoom = 1.0F;
     std::int16_t NivelZoom = 0;
     float MaxModulo = 0.0F;  ///< greatest magnitude that the scale is based on, 0 until the view sets it
-    float CentroX = 0.0F, CentroY = 0.0F;
+    float CentroX = 0.0F, CentroY = 0.0F;  ///< twips
     std::int16_t MuestrasCiclo;
 
 private:

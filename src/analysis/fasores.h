@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "record/record_store.h"
 
 namespace veldix {

@@ -12,7 +12,7 @@ constexpr double kBorde = 30.0, kAntesDeEje = 60.0;
 constexpr double kMenorZoom = 450.0, kFlecha = 0.7;
 
 /// The column of texts, over the plot's left margin and what stands beside it.
-void ColocaTextos(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& m)
+void ColocaTextos(LugaresDigital& l, const TamanoDigital& t, const MedidasControles& m)
 {
     const double ancho = l.Picture1.izquierda + kMargenDigital - kAntesDeEje - kBorde;
     const double altoFila = AltoFila(l.Picture1.alto), alto = std::min(altoFila, m.altoEtiqueta);
@@ -29,7 +29,7 @@ void ColocaTextos(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& 
 }
 
 /// Each cursor's bar, a quarter of the window wide, above its sample; the time at the second one's end.
-void ColocaBarras(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& m)
+void ColocaBarras(LugaresDigital& l, const TamanoDigital& t, const MedidasControles& m)
 {
     const double arriba = l.HScroll_Nombres.arriba, cuarto = t.ancho / 4.0;
     const double debajo = arriba + m.altoBarra + kHueco;
@@ -41,7 +41,7 @@ void ColocaBarras(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& 
     l.lbltiempo = {l.HScroll2.Derecha() - tiempo, debajo, tiempo, m.altoEtiqueta};
 }
 
-void ColocaBotones(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda& m)
+void ColocaBotones(LugaresDigital& l, const TamanoDigital& t, const MedidasControles& m)
 {
     const double izquierda = l.HScroll2.Derecha() + kHueco, arriba = l.HScroll1.arriba;
     const double queda = t.anchoInterior - izquierda - m.anchoReferencia - 2.0 * kHueco;
@@ -59,7 +59,7 @@ void ColocaBotones(LugaresDigital& l, const TamanoDigital& t, const MedidasOnda&
 
 }  // namespace
 
-std::optional<LugaresDigital> ColocaDigital(const TamanoDigital& t, const MedidasOnda& m)
+std::optional<LugaresDigital> ColocaDigital(const TamanoDigital& t, const MedidasControles& m)
 {
     LugaresDigital l;
     const double columna = t.ancha ? std::clamp(kColumna * t.ancho, kMenorColumna, kMayorColumna) : 0.0;

@@ -34,6 +34,6 @@ struct LugaresDigital {
 /// The layout: names on the base lines of their rows and the texts of the reference beside its band, in a
 /// column that ends at the plot's axis; bars and buttons below the plot. Nothing where the plot would have no
 /// size.
-std::optional<LugaresDigital> ColocaDigital(const TamanoDigital& t, const MedidasOnda& m);
+std::optional<LugaresDigital> ColocaDigital(const TamanoDigital& t, const MedidasControles& m);
 
 }  // namespace veldix

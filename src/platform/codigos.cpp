@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <memory>
 #include <unordered_map>
 
 namespace veldix {

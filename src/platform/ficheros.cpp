@@ -6,9 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -133,6 +131,23 @@ std::string_view PrimeraLinea(std::string_view texto, std::size_t& largo)
     return texto.substr(0, fin);
 }
 
+/// The exact spelling of a path, else the least name of its folder that differs in case alone and begins with
+/// `exacto`, else the path unchanged.
+std::string BuscaDesde(const std::string& ruta, std::string_view exacto)
+{
+    if (ruta.empty() || ExisteFichero(ruta) || ExisteCarpeta(ruta)) return ruta;
+    const std::string carpeta = CarpetaDe(ruta), nombre = NombreDe(ruta);
+    std::string hallado;
+    std::error_code ec;
+    for (fs::directory_iterator it(carpeta.empty() ? "." : carpeta, ec), fin; !ec && it != fin;
+         it.increment(ec)) {
+        const std::string este = it->path().filename().string();
+        if (!este.starts_with(exacto) || !IgualSinCaja(este, nombre)) continue;
+        if (hallado.empty() || este < hallado) hallado = este;
+    }
+    return hallado.empty() ? ruta : ruta.substr(0, ruta.size() - nombre.size()) + hallado;
+}
+
 /// The program's path as it was typed, absolute.
 std::string RutaArrancada(const char* argv0)
 {
@@ -171,16 +186,12 @@ bool ExisteCarpeta(const std::string& ruta)
 
 std::string BuscaSinCaja(const std::string& ruta)
 {
-    if (ruta.empty() || ExisteFichero(ruta) || ExisteCarpeta(ruta)) return ruta;
-    const std::string carpeta = CarpetaDe(ruta), nombre = NombreDe(ruta);
-    std::string hallado;
-    std::error_code ec;
-    for (fs::directory_iterator it(carpeta.empty() ? "." : carpeta, ec), fin; !ec && it != fin;
-         it.increment(ec)) {
-        const std::string este = it->path().filename().string();
-        if (IgualSinCaja(este, nombre) && (hallado.empty() || este < hallado)) hallado = este;
-    }
-    return hallado.empty() ? ruta : ruta.substr(0, ruta.size() - nombre.size()) + hallado;
+    return BuscaDesde(ruta, "");
+}
+
+std::string BuscaExtension(const std::string& tronco, std::string_view extension)
+{
+    return BuscaDesde(tronco + std::string(extension), NombreDe(tronco));
 }
 
 std::string UneRuta(std::string_view carpeta, std::string_view nombre)

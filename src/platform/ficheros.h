@@ -16,15 +16,18 @@ bool ExisteFichero(const std::string& ruta);
 bool ExisteCarpeta(const std::string& ruta);
 
 /// A path of the program's own making as it stands on the disk: the exact spelling first, else a file of the
-/// same folder whose name differs in case alone, else the path unchanged. Only the last component is sought.
+/// same folder whose name differs in case alone, the least of several, else the path unchanged. Only the last
+/// component is sought.
 std::string BuscaSinCaja(const std::string& ruta);
+/// The same for a file of this very stem: the extension alone, with its point, may be in another case.
+std::string BuscaExtension(const std::string& tronco, std::string_view extension);
 
 /// Folder and name joined by the separator, which is not doubled.
 std::string UneRuta(std::string_view carpeta, std::string_view nombre);
 std::string CarpetaDe(std::string_view ruta);
 std::string NombreDe(std::string_view ruta);
 
-/// A text file as a whole. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where
+/// A file as a whole. Raises 75 for an empty path or a folder, 53 where the file is missing, 76 where
 /// its folder is, 70 where it may not be read, 57 where reading fails, 7 over 64 MiB.
 std::string LeeOctetos(const std::string& ruta);
 

@@ -2,7 +2,6 @@
 
 #include <langinfo.h>
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>

@@ -9,7 +9,7 @@ namespace veldix {
 
 namespace {
 
-std::string_view SinBlancos(std::string_view t)
+std::string_view SinMargenes(std::string_view t)
 {
     const std::size_t a = t.find_first_not_of(" \t");
     if (a == std::string_view::npos) return {};
@@ -30,15 +30,15 @@ std::string ValorPerfil(const std::string& ruta, std::string_view seccion, std::
     if (!Intenta([&] { texto = DesdeUtf8OPagina(LeeOctetos(BuscaSinCaja(ruta))); })) return {};
     bool dentro = false;
     for (const std::string& linea : Lineas(texto)) {
-        const std::string_view l = SinBlancos(linea);
+        const std::string_view l = SinMargenes(linea);
         if (l.starts_with('[') && l.ends_with(']')) {
-            dentro = IgualSinCaja(SinBlancos(l.substr(1, l.size() - 2)), seccion);
+            dentro = IgualSinCaja(SinMargenes(l.substr(1, l.size() - 2)), seccion);
             continue;
         }
         const std::size_t igual = l.find('=');
         if (!dentro || igual == std::string_view::npos) continue;
-        if (IgualSinCaja(SinBlancos(l.substr(0, igual)), clave))
-            return std::string(SinComillas(SinBlancos(l.substr(igual + 1))));
+        if (IgualSinCaja(SinMargenes(l.substr(0, igual)), clave))
+            return std::string(SinComillas(SinMargenes(l.substr(igual + 1))));
     }
     return {};
 }

@@ -27,7 +27,7 @@ extern GanchosRegistro ganchosRegistro;
 class PasoGasolino {
 public:
     explicit PasoGasolino(int muestras);
-    void Muestra()
+    void Pasa()
     {
         if (cuenta_ == paso_) {
             // A gauge that fails does not cut the record.

@@ -19,33 +19,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file of this very stem whose extension, with its point, may be in another case; else the name as given.
-std::string ConExtension(const std::string& tronco, std::string_view extension)
-{
-    const std::string nombre = NombreDe(tronco), carpeta = CarpetaDe(tronco);
-    std::string hallado = nombre + std::string(extension);
-    std::error_code fallo;
-    if (ExisteFichero(UneRuta(carpeta, hallado))) return UneRuta(carpeta, hallado);
-    for (fs::directory_iterator it(carpeta.empty() ? "." : carpeta, fallo), fin; !fallo && it != fin;
-         it.increment(fallo)) {
-        const std::string este = it->path().filename();
-        if (este.starts_with(nombre) && IgualSinCaja(este, hallado)) hallado = este;
-    }
-    return UneRuta(carpeta, hallado);
-}
-
 /// The path of the copy without extension: that of a record which is there keeps its spelling, so that the
 /// three files stay together.
 std::string TroncoCopia(const RecordStore& s)
 {
     const std::string hallado = BuscaSinCaja(s.FicheroAscii + ".DAT");
-    const bool otro = !ExisteFichero(ConExtension(s.FicheroAscii, ".DAT")) && ExisteFichero(hallado);
+    const bool otro = !ExisteFichero(BuscaExtension(s.FicheroAscii, ".DAT")) && ExisteFichero(hallado);
     return otro ? std::string(SinFinal(hallado, 4)) : s.FicheroAscii;
 }
 
 std::string RutaCopia(const RecordStore& s, std::string_view extension)
 {
-    return ConExtension(TroncoCopia(s), extension);
+    return BuscaExtension(TroncoCopia(s), extension);
 }
 
 /// A file beside the `.dat`, as the copy looks for it.

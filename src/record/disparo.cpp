@@ -1,6 +1,5 @@
 #include "record/disparo.h"
 
-#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cmath>

@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "platform/enteros.h"
+#include "platform/lector_lineas_fichero.h"
 #include "platform/numeros.h"
 #include "record/avance.h"
-#include "record/lector_lineas_dat.h"
 #include "record/leer_dat.h"
 #include "record/leer_dat_comun.h"
 
@@ -122,7 +122,7 @@ void LeeLineas(RecordStore& s)
     const int muestras = s.Muestras.UBound(1);
     const Separadores separadores = SeparadoresSistema();
     const EscalaCanales escala(s, kMayorCampo);
-    LectorLineasDat fichero(s.FicheroDat);
+    LectorLineasFichero fichero(s.FicheroDat);
     ValoresLinea valores(s.Muestras.UBound(2));
     FilasMuestra filas(s, valores.n);
     PasoGasolino gasolino(muestras);
@@ -137,7 +137,7 @@ void LeeLineas(RecordStore& s)
         escala.Aplica(valores.x.get(), valores.todas ? nullptr : valores.valida.get(), i == 1, filas.muestras,
                       filas.prim, filas.sec);
         LeeDigitales(campos, s.NumDigital, filas.dig, separadores);
-        gasolino.Muestra();
+        gasolino.Pasa();
     }
 }
 

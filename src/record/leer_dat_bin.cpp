@@ -52,7 +52,7 @@ void LeeMuestras(RecordStore& s)
         std::memcpy(crudos.data(), p + LectorMuestras::kCabecera, 2 * na);
         escala.Aplica(crudos.data(), nullptr, i == 1, filas.muestras, filas.prim, filas.sec);
         if (filas.dig) Desempaqueta(p + LectorMuestras::kCabecera + 2 * na, digitales, filas.dig);
-        gasolino.Muestra();
+        gasolino.Pasa();
     }
 }
 

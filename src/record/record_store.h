@@ -115,7 +115,7 @@ struct GrupoIdentidad {
 
 /// Channel tables of the record.
 struct GrupoCanales {
-    Tabla1<float> FactorA, FactorB, Skew;  ///< 1 to NumAnalog
+    Tabla1<float> FactorA, FactorB, Skew;  ///< 1 to NumAnalog; the skew in µs
     Tabla1<FilaRelacion> Relacion;         ///< 1 to NumAnalog, 1997 only
     Tabla1<std::string> NombreDig;         ///< 1 to NumDigital
 };

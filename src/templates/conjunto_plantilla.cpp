@@ -11,7 +11,7 @@ namespace veldix {
 
 namespace {
 
-std::string SinBlancos(const std::string& texto)
+std::string EnUnaLinea(const std::string& texto)
 {
     return std::string(Recorta(UnaLinea(texto)));
 }
@@ -66,7 +66,7 @@ int FilasDeOrigen(const RecordStore& s, std::int16_t cuenta)
 int FilaSinNombre(const Tabla1<FilaCanal>& filas)
 {
     const auto vacia = [](const FilaCanal& f) {
-        return SinBlancos(f.Nombre).empty() && SinBlancos(f.Circuito).empty();
+        return EnUnaLinea(f.Nombre).empty() && EnUnaLinea(f.Circuito).empty();
     };
     const FilaCanal* primera = std::find_if(filas.begin(), filas.end(), vacia);
     return primera == filas.end() ? 0 : static_cast<int>(primera - filas.begin()) + 1;
@@ -76,8 +76,8 @@ void GuardaCanales(RecordStore& s, const Tabla1<FilaCanal>& filas)
 {
     Tabla1<FilaCanal> canales(filas.UBound());
     for (int r = 1; r <= filas.UBound(); ++r)
-        canales(r) = {FormaDelimitada(r), SinBlancos(filas(r).Nombre), SinBlancos(filas(r).Circuito),
-                      SinBlancos(filas(r).Unidades)};
+        canales(r) = {FormaDelimitada(r), EnUnaLinea(filas(r).Nombre), EnUnaLinea(filas(r).Circuito),
+                      EnUnaLinea(filas(r).Unidades)};
     s.CanalesPlan = std::move(canales);
 }
 

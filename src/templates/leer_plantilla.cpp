@@ -1,14 +1,13 @@
-#include <algorithm>
 #include <string_view>
 
 #include "platform/avisos.h"
 #include "platform/codigos.h"
 #include "platform/enteros.h"
 #include "platform/ficheros.h"
+#include "platform/lector_lineas_fichero.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
-#include "record/lector_lineas_dat.h"
 #include "templates/plantilla.h"
 
 namespace veldix {
@@ -218,7 +217,7 @@ void LeerPlantilla(RecordStore& s)
 std::string LeerVersionPlantilla(RecordStore& s)
 {
     // Each opening of a menu comes here, so that no more than a chunk of the file is read.
-    const auto linea = LectorLineasDat(s.FicheroCnf).Primera();
+    const auto linea = LectorLineasFichero(s.FicheroCnf).Primera();
     if (!linea) Lanza(error::kFinDeFichero);
     s.VersionPlantilla = DesdePagina(*linea);
     return s.VersionPlantilla;

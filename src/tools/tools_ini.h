@@ -17,7 +17,8 @@ struct ToolsIni {
 
 std::string RutaTools(const RecordStore& s);
 
-/// Reads `tools.ini`. Raises what opening raises, 62 where it is short, 13 or 6 for a number that is none.
+/// Reads `tools.ini`. Raises what opening raises, 62 where it is short, 13 or 6 for a number that is none,
+/// 9 for a count below -1.
 ToolsIni LeeToolsIni(const RecordStore& s);
 /// Replaces `tools.ini` whole. Raises what writing raises; the old file then stands.
 void EscribeToolsIni(const RecordStore& s, const ToolsIni& t);
@@ -25,7 +26,7 @@ void EscribeToolsIni(const RecordStore& s, const ToolsIni& t);
 void EscribeHerramientas(const RecordStore& s, ToolsIni t);
 
 /// Language, default folders and the count of tools, which it returns, from the head of `tools.ini`.
-/// What was read before a failure stays. Raises as LeeToolsIni.
+/// What was read before a failure stays. Raises as LeeToolsIni, but takes any count.
 std::int16_t LeeTools(RecordStore& s);
 
 /// The three default folders alone. Raises as LeeToolsIni.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "platform/enteros.h"
 #include "platform/texto.h"

@@ -4,9 +4,9 @@
 
 namespace veldix {
 
-MedidasOndas MideOndas(double ancho, double alto)
+MedidasHoja MideOndas(double ancho, double alto)
 {
-    MedidasOndas m;
+    MedidasHoja m;
     m.marco = MarcoPagina(ancho, alto);
     // The plot begins a fraction of the width below the top.
     m.plot = {ancho * 0.15, ancho * 0.05, ancho * 0.92, alto * 0.82};

@@ -9,13 +9,13 @@
 namespace veldix {
 
 /// Fixed measures of a page of waves, twips.
-struct MedidasOndas {
+struct MedidasHoja {
     Marco marco, plot;
     double columna = 0.0;  ///< X of the right-hand column of the heading
     double pasoY = 0.0;    ///< between value ticks, negative: upwards
     double PasoX = 0.0;    ///< how much room a label of the time axis wants
 };
-MedidasOndas MideOndas(double ancho, double alto);
+MedidasHoja MideOndas(double ancho, double alto);
 
 /// The complete table of a page of waves or digital states. Twips; curves unclipped, the painter keeps them
 /// inside the plot.
@@ -38,7 +38,7 @@ struct HojaOndas {
         double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
         std::uint32_t color = 0;
     };
-    MedidasOndas medidas;
+    MedidasHoja medidas;
     std::vector<Texto> textos;
     std::vector<Raya> rayas;   ///< ticks and keys
     std::vector<Raya> dentro;  ///< zero lines, base lines and cursors, kept inside the plot

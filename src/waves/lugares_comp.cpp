@@ -32,7 +32,7 @@ ColumnaComp ColocaColumna(const Lugar& hueco, double altoBarra, int curvas)
 }
 
 /// Both bars with their sample numbers below them, then the time.
-void ColocaCursores(LugaresComp& l, double arriba, double lateral, const MedidasOnda& m)
+void ColocaCursores(LugaresComp& l, double arriba, double lateral, const MedidasControles& m)
 {
     const double barra = l.Picture1.ancho / 4.0, debajo = arriba + m.altoBarra + 10.0;
     l.HScroll1 = {0.0, arriba, barra, m.altoBarra};
@@ -56,7 +56,7 @@ void ColocaBotones(LugaresComp& l, double lateral, double alto, bool medio, doub
 
 }  // namespace
 
-std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasOnda& m)
+std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasControles& m)
 {
     LugaresComp l;
     l.Picture1 = {0.0, 0.0, t.ancho - kLadoComp, t.alto - kBajoComp};

@@ -38,6 +38,6 @@ struct TamanoComp {
 };
 
 /// The layout; gaps follow the count of windows. Nothing where the plot would have no size.
-std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasOnda& m);
+std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasControles& m);
 
 }  // namespace veldix

@@ -12,7 +12,7 @@ namespace {
 constexpr double kMenorZoom = 450.0;
 
 /// Widths of the arrow and print buttons are fractions of the zoom button's.
-void ColocaBotones(LugaresOnda& l, double ancho, bool pocas, const MedidasOnda& m)
+void ColocaBotones(LugaresOnda& l, double ancho, bool pocas, const MedidasControles& m)
 {
     const double hueco = pocas ? kHueco : 0.0, flecha = pocas ? 0.8 : 0.6, imprimir = 0.8;
     const double alto = pocas ? 2.0 * m.altoEtiqueta + kHueco : m.altoEtiqueta + kHueco;
@@ -40,7 +40,7 @@ std::vector<Lugar> RejillaVentanas(int cuenta, const TamanoVista& vista)
     return lugares;
 }
 
-std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, const MedidasOnda& m)
+std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, const MedidasControles& m)
 {
     LugaresOnda l;
     const double altoPlot = alto - kBajoPlot;

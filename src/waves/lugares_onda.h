@@ -17,7 +17,7 @@ inline constexpr double kHueco = 50.0;
 std::vector<Lugar> RejillaVentanas(int cuenta, const TamanoVista& vista);
 
 /// Sizes that the layout of a wave window takes from the controls' fonts, in twips.
-struct MedidasOnda {
+struct MedidasControles {
     double altoBarra = 240.0;      ///< of a cursor bar
     double altoEtiqueta = 240.0;   ///< of a label
     double anchoZoom = 900.0;      ///< of the zoom button, where there is room
@@ -40,6 +40,6 @@ struct LugaresOnda {
 /// The layout of a window of the outer size `ancho` x `alto` while `ventanas` wave windows are open: with
 /// more than three the buttons are low and stand without gaps. The zoom button, which the others follow in
 /// width, gives way to the reference label. Nothing where the plot would have no height.
-std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, const MedidasOnda& m);
+std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, const MedidasControles& m);
 
 }  // namespace veldix

@@ -25,7 +25,7 @@ void ColocaEtiquetas(LugaresTodo& l, int bandas, double altoLinea)
 
 /// From left to right: each cursor's bar and sample number, the time, the buttons, the reference. The bars
 /// take what the texts leave.
-void ColocaFila(LugaresTodo& l, double derecha, double bajo, const MedidasOnda& m)
+void ColocaFila(LugaresTodo& l, double derecha, double bajo, const MedidasControles& m)
 {
     const double flecha = 0.6 * m.anchoZoom, izquierda = l.Picture1.izquierda;
     const double fijo =
@@ -55,7 +55,7 @@ void ColocaFila(LugaresTodo& l, double derecha, double bajo, const MedidasOnda& 
 }  // namespace
 
 std::optional<LugaresTodo> ColocaTodo(double ancho, double alto, double anchoInterior, double bajo,
-                                      int bandas, const MedidasOnda& m)
+                                      int bandas, const MedidasControles& m)
 {
     LugaresTodo l;
     l.Picture1 = {kIzquierdaTodo, 0.0, ancho - kLadoTodo, alto - kBajoTodo};

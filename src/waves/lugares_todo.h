@@ -25,6 +25,6 @@ struct LugaresTodo {
 /// one row below the plot. `anchoInterior` is the width inside the frame, `bajo` the height that the frame
 /// leaves below the plot. Nothing where the plot would have no size.
 std::optional<LugaresTodo> ColocaTodo(double ancho, double alto, double anchoInterior, double bajo,
-                                      int bandas, const MedidasOnda& m);
+                                      int bandas, const MedidasControles& m);
 
 }  // namespace veldix

@@ -12,7 +12,7 @@ constexpr double kMilisegundos = 50.0, kHolgura = 1e-6;  // a tick on the very e
 
 }  // namespace
 
-std::vector<Marca> MarcasValor(const MedidasOndas& m, double origen, double valorPaso,
+std::vector<Marca> MarcasValor(const MedidasHoja& m, double origen, double valorPaso,
                                const std::string& unidades)
 {
     std::vector<Marca> marcas;
@@ -24,7 +24,7 @@ std::vector<Marca> MarcasValor(const MedidasOndas& m, double origen, double valo
     return marcas;
 }
 
-std::vector<Marca> MarcasTiempo(const MedidasOndas& m, double escala, int porSegundo)
+std::vector<Marca> MarcasTiempo(const MedidasHoja& m, double escala, int porSegundo)
 {
     std::vector<Marca> marcas;
     const int p50 = Entero16(kMilisegundos / Divide(1000.0, porSegundo));

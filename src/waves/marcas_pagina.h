@@ -15,11 +15,11 @@ struct Marca {
 
 /// Value ticks at multiples of the vertical step either side of `origen`, 7 each, those inside the plot
 /// alone. `valorPaso` is a step in the channel's units.
-std::vector<Marca> MarcasValor(const MedidasOndas& m, double origen, double valorPaso,
+std::vector<Marca> MarcasValor(const MedidasHoja& m, double origen, double valorPaso,
                                const std::string& unidades);
 
 /// Time ticks every 50 ms from the left edge, and finer ones without labels where 50 ms are wide. `escala` is
 /// twips a sample of the page. None at fewer than 10 samples a second; raises 11 for 0.
-std::vector<Marca> MarcasTiempo(const MedidasOndas& m, double escala, int porSegundo);
+std::vector<Marca> MarcasTiempo(const MedidasHoja& m, double escala, int porSegundo);
 
 }  // namespace veldix

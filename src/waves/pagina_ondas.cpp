@@ -1,10 +1,8 @@
 #include "waves/pagina_ondas.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/enteros.h"
-#include "platform/numeros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
 #include "waves/marcas_pagina.h"
@@ -51,12 +49,12 @@ void PonMarcasValor(HojaOndas& h, RedactorHoja& r, const EscalaPagina& e, double
     r.PonCero(e.origen, unidades, kNormal);
     for (const Marca& m : MarcasValor(h.medidas, e.origen, valorPaso, unidades)) {
         h.rayas.push_back({p.izquierda - kLargoMarca, m.lugar, p.izquierda, m.lugar});
-        r.PonIzquierda(p.izquierda - kLargoMarca, m.lugar, m.rotulo, kNormal);
+        r.PonHasta(p.izquierda - kLargoMarca, m.lugar, m.rotulo, kNormal);
     }
 }
 
 /// A level of a box zoom on the page; nothing where its stretch is no step wide.
-std::optional<EscalaPagina> EscalaDeNivel(const MedidasOndas& m, const NivelCaja& n, std::int16_t ultima,
+std::optional<EscalaPagina> EscalaDeNivel(const MedidasHoja& m, const NivelCaja& n, std::int16_t ultima,
                                           float escalaY)
 {
     const auto tramo = Reproduce(n, ultima);

@@ -68,7 +68,7 @@ std::string RedactorHoja::Cabe(const std::string& nombre, double ancho, LetraPag
     return corto;
 }
 
-void RedactorHoja::PonIzquierda(double x, double y, const std::string& texto, LetraPagina letra)
+void RedactorHoja::PonHasta(double x, double y, const std::string& texto, LetraPagina letra)
 {
     Pon(x - Ancho(texto, letra), y - Alto(letra) / 2.0, texto, letra);
 }
@@ -124,8 +124,7 @@ void RedactorHoja::PonCero(double y, const std::string& unidades, LetraPagina le
 {
     const Marco& p = hoja_.medidas.plot;
     hoja_.dentro.push_back({p.izquierda, y, p.derecha, y});
-    if (y >= p.arriba && y <= p.abajo)
-        PonIzquierda(p.izquierda - kLargoMarca, y, "0 " + unidades + "  ", letra);
+    if (y >= p.arriba && y <= p.abajo) PonHasta(p.izquierda - kLargoMarca, y, "0 " + unidades + "  ", letra);
 }
 
 /// The second label stands lower, as both cursors may be on one sample.

@@ -49,7 +49,7 @@ public:
     /// A name as far as it fits into a width, its cut marked; never so short that it tells nothing.
     std::string Cabe(const std::string& nombre, double ancho, LetraPagina letra);
     /// Its right end at x, its middle at y.
-    void PonIzquierda(double x, double y, const std::string& texto, LetraPagina letra);
+    void PonHasta(double x, double y, const std::string& texto, LetraPagina letra);
 
     /// Upper edge of a row of the heading, and where its left column begins.
     double Fila(int fila);

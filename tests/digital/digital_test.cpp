@@ -270,7 +270,7 @@ TEST(LugaresDigital, LabelsAndNamesMissTheirPlacesOrTheFrame)
     EXPECT_NEAR(ColocaGrid({9526.0, 6117.0, 9406.0, 9000.0}).altoEtiqueta, 9526.0 / 63.0, 0.1);
     EXPECT_NEAR(ColocaGrid({12000.0, 20000.0, 11900.0, 19500.0}).resto.Derecha(), 11900.0 - 120.0, 0.1);
 
-    const MedidasOnda m;
+    const MedidasControles m;
     for (const bool ancha : {true, false}) {
         const auto l = ColocaDigital({12000.0, 9000.0, 11900.0, 600.0, ancha, true}, m);
         ASSERT_TRUE(l);

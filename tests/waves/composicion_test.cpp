@@ -75,7 +75,8 @@ TEST(Lugares, ControlsOfACompositionOverlapOnASmallScreen)
     for (int n = 1; n <= 3; ++n) {
         const auto alto = static_cast<double>(RejillaComposicion(n, {11700, 8175})[0].alto);
         for (const bool estrecha : {false, true}) {
-            const auto l = ColocaComposicion({11700.0, alto, 11580.0, 900.0, n, estrecha}, MedidasOnda{});
+            const auto l =
+                ColocaComposicion({11700.0, alto, 11580.0, 900.0, n, estrecha}, MedidasControles{});
             ASSERT_TRUE(l);
             EXPECT_GE(l->HScroll1.arriba, l->Picture1.Abajo());
             EXPECT_GE(l->cmdadel.izquierda, l->cmdzoom.Derecha());
@@ -85,20 +86,20 @@ TEST(Lugares, ControlsOfACompositionOverlapOnASmallScreen)
             EXPECT_LE(l->Label1.Abajo(), l->Picture1.alto + 900.0);
         }
     }
-    EXPECT_FALSE(ColocaComposicion({1300.0, 5000.0, 1200.0, 900.0}, MedidasOnda{}));
+    EXPECT_FALSE(ColocaComposicion({1300.0, 5000.0, 1200.0, 900.0}, MedidasControles{}));
 }
 
 TEST(Lugares, LabelsOfAllChannelsStandByTheirBandInOneColumn)
 {
     for (const int bandas : {1, 3, 8}) {
-        const auto l = ColocaTodo(15284.0, 10435.0, 15164.0, 450.0, bandas, MedidasOnda{});
+        const auto l = ColocaTodo(15284.0, 10435.0, 15164.0, 450.0, bandas, MedidasControles{});
         ASSERT_TRUE(l && static_cast<int>(l->lblet.size()) == 2 * bandas);
         for (std::size_t k = 0; k + 1 < l->lblet.size(); ++k)
             EXPECT_LE(l->lblet[k].Abajo(), l->lblet[k + 1].arriba + 1e-6);
         EXPECT_NEAR(l->lblet[1].arriba, (l->Picture1.alto / bandas + 1.0) / 2.0, 1e-6);
         EXPECT_LE(l->pctimpresora.Derecha(), 15164.0);
     }
-    EXPECT_FALSE(ColocaTodo(1500.0, 9000.0, 1400.0, 450.0, 2, MedidasOnda{}));
+    EXPECT_FALSE(ColocaTodo(1500.0, 9000.0, 1400.0, 450.0, 2, MedidasControles{}));
 }
 
 }  // namespace

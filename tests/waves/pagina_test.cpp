@@ -90,7 +90,7 @@ TEST(PaginaOndas, LevelsAreReplayedOnThePaperWithTheirTicks)
 
 TEST(PaginaOndas, TimeTicksThinOutAndEndWhereTheyMustNotRunForever)
 {
-    const MedidasOndas m = MideOndas(20000.0, 15000.0);
+    const MedidasHoja m = MideOndas(20000.0, 15000.0);
     EXPECT_EQ(Rotulos(MarcasTiempo(m, 15400.0 / 3999, 1000)).substr(0, 8), ".100|...");
     EXPECT_EQ(MarcasTiempo(m, 16.0, 10).size(), 0U);
     EXPECT_EQ(MarcasTiempo(m, 500.0, 50).at(0).lugar, 4000.0);  // 2.5 samples go to 2

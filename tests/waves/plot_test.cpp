@@ -91,7 +91,7 @@ TEST(Rejilla, FillsTheLeftColumnFirstWithWholeTwips)
 
 TEST(Rejilla, TheControlsOfAWindowNeverCoverOneAnother)
 {
-    MedidasOnda m;
+    MedidasControles m;
     m.altoBarra = 255, m.altoEtiqueta = 240, m.anchoZoom = 900;
     for (const int ventanas : {3, 4}) {
         SCOPED_TRACE(ventanas);

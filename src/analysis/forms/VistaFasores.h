@@ -4,7 +4,6 @@
 #include <QPushButton>
 
 #include <array>
-#include <functional>
 #include <memory>
 
 #include "analysis/diagrama.h"

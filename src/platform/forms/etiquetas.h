@@ -31,7 +31,7 @@ QString Ayuda(const QString& texto);
 /// Fills a control's background with a light colour, its text black.
 void PonFondo(QWidget* control, QRgb color);
 
-/// Puts a control at its place.
+/// Puts a control at its place, twips.
 void Pon(QWidget* control, const Lugar& lugar);
 
 }  // namespace veldix

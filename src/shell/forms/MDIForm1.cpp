@@ -20,7 +20,6 @@
 #include "platform/pantalla.h"
 #include "platform/perfil.h"
 #include "platform/rutas.h"
-#include "platform/texto.h"
 #include "platform/textos.h"
 #include "record/abrir_registro.h"
 #include "record/avance.h"

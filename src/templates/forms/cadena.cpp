@@ -28,17 +28,17 @@ void EmpiezaPaginas()
     frmAnalog::unica.Muestra();
 }
 
-void SigueAnalogicos()
+void AbreTrifasic()
 {
     frmTrifasic::unica.Muestra();
 }
 
-void SigueTrifasic()
+void AbreDigital()
 {
     frmDigital::unica.Muestra();
 }
 
-void SigueDigital()
+void AbreSalvaPlan()
 {
     frmSalvaPlan::unica.Muestra();
 }

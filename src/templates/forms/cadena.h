@@ -9,10 +9,10 @@ namespace veldix {
 /// From the selection, which has unloaded itself, to the analog page. Pages of an earlier set-up go.
 void EmpiezaPaginas();
 
-/// On from a page that has hidden itself.
-void SigueAnalogicos();
-void SigueTrifasic();
-void SigueDigital();
+/// On to the next page, from one that has hidden itself.
+void AbreTrifasic();
+void AbreDigital();
+void AbreSalvaPlan();
 
 /// Back from the analog page, which goes with those behind it, to the selection.
 void VuelveASeleccion();

@@ -165,7 +165,7 @@ void frmAnalog::cmdOK_Click()
         }
         GuardaCanales(store, filas);
         hide();
-        SigueAnalogicos();
+        AbreTrifasic();
     });
 }
 

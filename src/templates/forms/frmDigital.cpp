@@ -226,7 +226,7 @@ void frmDigital::cmdOK_Click()
         return;
     }
     hide();
-    SigueDigital();
+    AbreSalvaPlan();
 }
 
 void frmDigital::cmdvolver_Click()

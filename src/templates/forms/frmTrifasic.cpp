@@ -282,7 +282,7 @@ void frmTrifasic::cmdOK_Click()
 {
     if (!GuardaGrupos()) return;
     hide();
-    SigueTrifasic();
+    AbreDigital();
 }
 
 void frmTrifasic::cmdvolver_Click()

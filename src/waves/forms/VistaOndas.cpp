@@ -64,10 +64,10 @@ double VistaOndas::AltoBajoPlot(double bajo) const
     return bajo - ATwips(marco);
 }
 
-MedidasOnda VistaOndas::Medidas(double alto, bool unaFila) const
+MedidasControles VistaOndas::Medidas(double alto, bool unaFila) const
 {
     const QFontMetrics letra(font());
-    MedidasOnda m;
+    MedidasControles m;
     m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), unaFila ? alto : alto / 2.0);
     m.altoEtiqueta = qMin(ATwips(letra.height()), unaFila ? alto : alto - m.altoBarra);
     m.anchoZoom = anchoZoom_;

@@ -60,7 +60,7 @@ protected:
     void HScroll2_Change();
 
     /// What the fonts ask for within this height, twips: bars above labels, or beside them in one row.
-    MedidasOnda Medidas(double alto, bool unaFila = false) const;
+    MedidasControles Medidas(double alto, bool unaFila = false) const;
     /// Height inside the frame of a window that leaves `bajo` twips below its plot.
     double AltoBajoPlot(double bajo) const;
     /// The label tells which side of a 1997 record is shown, if one was chosen.

@@ -4,7 +4,6 @@
 #include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
-#include "platform/forms/iconos.h"
 #include "platform/numeros.h"
 #include "platform/rutas.h"
 #include "platform/textos.h"

@@ -2,7 +2,6 @@
 
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
-#include "platform/textos.h"
 #include "waves/colores.h"
 
 namespace veldix {

@@ -1,4 +1,4 @@
-#include "record/lector_lineas_dat.h"
+#include "platform/lector_lineas_fichero.h"
 
 #include <algorithm>
 #include <cstring>
@@ -22,10 +22,10 @@ const char* FinDeLinea(const char* de, const char* hasta)
 
 }  // namespace
 
-LectorLineasDat::LectorLineasDat(const std::string& ruta) : fichero_(ruta), buf_(kTrozo) {}
+LectorLineasFichero::LectorLineasFichero(const std::string& ruta) : fichero_(ruta), buf_(kTrozo) {}
 
 /// Moves what is left to the front and reads on. False where nothing more came or fits.
-bool LectorLineasDat::Rellena()
+bool LectorLineasFichero::Rellena()
 {
     if (agotado_) return false;
     if (pos_ > 0) {
@@ -43,7 +43,7 @@ bool LectorLineasDat::Rellena()
     return n > 0;
 }
 
-std::optional<std::string_view> LectorLineasDat::Ultima()
+std::optional<std::string_view> LectorLineasFichero::Ultima()
 {
     const std::string_view resto(buf_.data() + pos_, lleno_ - pos_);
     pos_ = lleno_;
@@ -52,7 +52,7 @@ std::optional<std::string_view> LectorLineasDat::Ultima()
 }
 
 /// Passes over the rest of a line too long to be held.
-void LectorLineasDat::SaltaHastaFin()
+void LectorLineasFichero::SaltaHastaFin()
 {
     for (;;) {
         const char* de = buf_.data() + pos_;
@@ -62,13 +62,13 @@ void LectorLineasDat::SaltaHastaFin()
     }
 }
 
-std::optional<std::string> LectorLineasDat::Primera()
+std::optional<std::string> LectorLineasFichero::Primera()
 {
     const auto linea = Lee();
     return linea ? std::optional<std::string>(*linea) : std::nullopt;
 }
 
-std::optional<std::string_view> LectorLineasDat::Lee()
+std::optional<std::string_view> LectorLineasFichero::Lee()
 {
     std::size_t visto = 0;
     for (;;) {

@@ -10,9 +10,9 @@ namespace veldix {
 
 /// The lines of a long text file, read in chunks. CR LF, LF and CR each end one; a last line without an end
 /// counts, unless it is a lone 0x1A. A line beyond 8 MiB is cut there.
-class LectorLineasDat {
+class LectorLineasFichero {
 public:
-    explicit LectorLineasDat(const std::string& ruta);
+    explicit LectorLineasFichero(const std::string& ruta);
 
     /// The next line, valid until the next call. Errors as LectorTrozos.
     std::optional<std::string_view> Lee();
