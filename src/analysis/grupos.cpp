@@ -2,6 +2,13 @@
 
 namespace veldix {
 
+Marcas MarcaUno(int grupo, int cuantos)
+{
+    Marcas marcas(static_cast<std::size_t>(cuantos), false);
+    marcas[static_cast<std::size_t>(grupo - 1)] = true;
+    return marcas;
+}
+
 Tabla1<std::int16_t> CuentaMarcas(const Marcas& marcas)
 {
     const int cuantos = static_cast<int>(marcas.size());

@@ -9,6 +9,9 @@ namespace veldix {
 /// What the chooser's boxes say: for each group, from 1, whether it is ticked. Its size is `NumTrifasic`.
 using Marcas = std::vector<bool>;
 
+/// Group `grupo` alone of `cuantos`.
+Marcas MarcaUno(int grupo, int cuantos);
+
 /// `GruposFases` or `GruposSecuencias` of a column of boxes.
 Tabla1<std::int16_t> CuentaMarcas(const Marcas& marcas);
 

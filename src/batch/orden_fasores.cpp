@@ -50,9 +50,7 @@ bool EligeGrupo(int grupo, const Consola& consola)
               std::to_string(grupo) + ".");
         return false;
     }
-    Marcas marcas(static_cast<std::size_t>(store.NumTrifasic), false);
-    marcas[static_cast<std::size_t>(grupo - 1)] = true;
-    store.GruposSecuencias = CuentaMarcas(marcas);
+    store.GruposSecuencias = CuentaMarcas(MarcaUno(grupo, store.NumTrifasic));
     return true;
 }
 

@@ -137,9 +137,7 @@ bool ImprimeGrupos(Informe& informe, const Consola& consola)
     CalculaDFT(store);
     if (store.FasoresDFT.Vacia()) return false;
     for (int g = 1; g <= store.NumTrifasic; ++g) {
-        Marcas marcas(static_cast<std::size_t>(store.NumTrifasic), false);
-        marcas[static_cast<std::size_t>(g - 1)] = true;
-        store.GruposFases = store.GruposSecuencias = CuentaMarcas(marcas);
+        store.GruposFases = store.GruposSecuencias = CuentaMarcas(MarcaUno(g, store.NumTrifasic));
         ImprimeDiagrama(informe, store.FasoresDFT, MaxModuloFases, TrazosFases(store), 69, "Fases");
         CalculaSecuencias(store);
         ImprimeDiagrama(informe, store.Secuencias, MaxModuloSecuencias, TrazosSecuencias(store), 70,

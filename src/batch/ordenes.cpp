@@ -214,7 +214,7 @@ bool LeePlantillaDe(const std::string& ruta, const Consola& consola)
     store.RegistroAbierto = true;
     store.PlantillaAplicada = true;
     LeerPlantilla(store);
-    if (store.VersionPlan == "ver 1.0") return false;
+    if (EsVersionVieja(store.VersionPlan)) return false;
     if (!store.PlantillaNoValida) AplicaPlantilla(store);
     return true;
 }

@@ -9,7 +9,7 @@ namespace {
 // Of the names, left of the plot, where the screen has room: a part of the width, within bounds.
 constexpr double kColumna = 0.1, kMenorColumna = 1300.0, kMayorColumna = 2400.0;
 constexpr double kBorde = 30.0, kAntesDeEje = 60.0;
-constexpr double kMenorZoom = 450.0, kFlecha = 0.7;
+constexpr double kFlecha = 0.7;
 
 /// The column of texts, over the plot's left margin and what stands beside it.
 void ColocaTextos(LugaresDigital& l, const TamanoDigital& t, const MedidasControles& m)

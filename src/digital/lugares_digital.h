@@ -22,12 +22,11 @@ struct TamanoDigital {
 };
 
 /// Places of its controls, in twips from the corner of its inside.
-struct LugaresDigital {
+struct LugaresDigital : LugaresBotones {
     Lugar Picture1;
     std::array<Lugar, kFilasDigital> label;
     Lugar lblanalog, lblamar, lblcian, HScroll_Analog;
     Lugar HScroll_Nombres, HScroll1, HScroll2, lblizq, lblder, lbltiempo;
-    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
     Lugar lbl_PS;
 };
 

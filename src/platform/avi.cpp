@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 #include <utility>
+
+#include "platform/errores.h"
+#include "platform/ficheros.h"
 
 namespace veldix {
 namespace {
@@ -152,15 +152,9 @@ std::optional<PeliculaAvi> InterpretaAvi(std::span<const std::uint8_t> bytes)
 
 std::optional<PeliculaAvi> LeeAvi(const std::string& ruta)
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(ruta, error)) return std::nullopt;
-    const auto tamano = std::filesystem::file_size(ruta, error);
-    if (error || tamano > kTamanoMaximo) return std::nullopt;
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(tamano));
-    std::ifstream archivo(ruta, std::ios::binary);
-    archivo.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!archivo) return std::nullopt;
-    return InterpretaAvi(bytes);
+    std::string octetos;
+    if (!ExisteFichero(ruta) || !Intenta([&] { octetos = LeeOctetos(ruta); })) return std::nullopt;
+    return InterpretaAvi({reinterpret_cast<const std::uint8_t*>(octetos.data()), octetos.size()});
 }
 
 }  // namespace veldix

@@ -27,6 +27,8 @@ std::string AltoVista(const Pantalla& p);
 
 /// Screen width in pixels.
 std::int32_t AnchoPixeles(const Pantalla& p);
+/// The widest screen that counts as narrow, pixels.
+inline constexpr std::int32_t kPantallaEstrecha = 800;
 
 /// Both sizes as the views take them: read back and rounded, halves to even. Twips.
 struct TamanoVista {

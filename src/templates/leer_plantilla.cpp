@@ -46,7 +46,7 @@ public:
     void Lee()
     {
         Avanza(s_.VersionPlan);
-        if (s_.VersionPlan == "ver 1.0") {
+        if (EsVersionVieja(s_.VersionPlan)) {
             PunteroNormal();
             Avisa(Textos(172), Icono::Critico);
             s_.PlantillaNoValida = false;

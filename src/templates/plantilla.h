@@ -13,6 +13,12 @@ namespace veldix {
 /// above its digital channels, sets `PlantillaNoValida` and leaves the set half filled.
 void LeerPlantilla(RecordStore& s);
 
+/// The first line of a template too old to be read.
+inline bool EsVersionVieja(std::string_view version)
+{
+    return version == "ver 1.0";
+}
+
 /// The first line of `FicheroCnf`, also stored in `VersionPlantilla`. Raises 75 for an empty name or a
 /// folder, 53 for a missing file, 76 for a missing folder, 62 for an empty file.
 std::string LeerVersionPlantilla(RecordStore& s);

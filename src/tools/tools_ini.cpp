@@ -15,6 +15,15 @@ std::string SinExtremos(const std::string& linea)
     return n < 2 ? std::string() : std::string(SinFinal(Derecha(linea, n - 1), 1));
 }
 
+/// The default folders, for a store or for a file's contents.
+template <class Destino>
+void LeeCarpetas(LectorLineas& lineas, Destino& d)
+{
+    d.DirDatos = lineas.Lee();
+    d.DirPlantillas = lineas.Lee();
+    d.DirAplic = lineas.Lee();
+}
+
 }  // namespace
 
 std::string RutaTools(const RecordStore& s)
@@ -27,9 +36,7 @@ ToolsIni LeeToolsIni(const RecordStore& s)
     LectorLineas lineas = AbreAjustes(RutaTools(s));
     ToolsIni t;
     t.Idioma = Entero16Local(lineas.Lee());
-    t.DirDatos = lineas.Lee();
-    t.DirPlantillas = lineas.Lee();
-    t.DirAplic = lineas.Lee();
+    LeeCarpetas(lineas, t);
     const std::int16_t n = Entero16Local(lineas.Lee());
     if (n < -1) Lanza(error::kSubindice);
     for (int i = 1; i <= n; ++i)
@@ -59,9 +66,7 @@ std::int16_t LeeTools(RecordStore& s)
 {
     LectorLineas lineas = AbreAjustes(RutaTools(s));
     s.Idioma = Entero16Local(lineas.Lee());
-    s.DirDatos = lineas.Lee();
-    s.DirPlantillas = lineas.Lee();
-    s.DirAplic = lineas.Lee();
+    LeeCarpetas(lineas, s);
     return Entero16Local(lineas.Lee());
 }
 
@@ -69,9 +74,7 @@ void LeeDirectorios(RecordStore& s)
 {
     LectorLineas lineas = AbreAjustes(RutaTools(s));
     lineas.Lee();
-    s.DirDatos = lineas.Lee();
-    s.DirPlantillas = lineas.Lee();
-    s.DirAplic = lineas.Lee();
+    LeeCarpetas(lineas, s);
 }
 
 std::int16_t LeeIdiomaTools(const RecordStore& s)

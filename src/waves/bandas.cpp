@@ -42,11 +42,9 @@ Bandas ColocaBandas(RecordStore& s, const std::vector<int>& canales, float alto)
         b.escalas.push_back(std::max(std::fabs(s.MaxCanal(c)), std::fabs(s.MinCanal(c))));
         if (UnidadDe(s, r) != Unidad::Otra) comun = std::max(comun, b.escalas.back());
     }
-    const double util = (double{b.alto} - (double{b.alto} + b.alto) / 50.0) / 2.0;
     for (std::size_t k = 0; k < canales.size(); ++k) {
-        float m = UnidadDe(s, canales[k]) == Unidad::Otra ? b.escalas[k] : comun;
-        if (m == 0.0F) m = b.alto / 2.0F;
-        b.escalas[k] = Single(Divide(util, m));
+        const float mayor = UnidadDe(s, canales[k]) == Unidad::Otra ? b.escalas[k] : comun;
+        b.escalas[k] = EscalaVertical(b.alto, 0.0F, mayor);
     }
     return b;
 }

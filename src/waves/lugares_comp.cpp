@@ -6,17 +6,7 @@ namespace veldix {
 
 namespace {
 
-constexpr double kAltoMarca = 75.0, kMenorZoom = 450.0;
-
-struct Huecos {
-    double vertical, lateral;
-};
-
-Huecos HuecosDe(int ventanas)
-{
-    if (ventanas >= 3) return {10.0, 10.0};
-    return ventanas == 2 ? Huecos{50.0, 100.0} : Huecos{295.0, 100.0};
-}
+constexpr double kAltoMarca = 75.0;
 
 ColumnaComp ColocaColumna(const Lugar& hueco, double altoBarra, int curvas)
 {
@@ -56,12 +46,18 @@ void ColocaBotones(LugaresComp& l, double lateral, double alto, bool medio, doub
 
 }  // namespace
 
+HuecosComp HuecosDe(int ventanas)
+{
+    if (ventanas >= 3) return {10.0, 10.0};
+    return ventanas == 2 ? HuecosComp{50.0, 100.0} : HuecosComp{295.0, 100.0};
+}
+
 std::optional<LugaresComp> ColocaComposicion(const TamanoComp& t, const MedidasControles& m)
 {
     LugaresComp l;
     l.Picture1 = {0.0, 0.0, t.ancho - kLadoComp, t.alto - kBajoComp};
     if (!(l.Picture1.ancho > 0.0 && l.Picture1.alto > 0.0)) return std::nullopt;
-    const Huecos h = HuecosDe(t.ventanas);
+    const HuecosComp h = HuecosDe(t.ventanas);
     const double x = l.Picture1.Derecha() + kHueco, ancho = std::max(0.0, t.anchoInterior - x - kHueco);
     const double mitad = (l.Picture1.alto + t.bajo) / 2.0;
     l.amarilla = ColocaColumna({x, 0.0, ancho, mitad - 30.0}, m.altoBarra, t.curvas);

@@ -12,6 +12,13 @@ namespace veldix {
 /// Height and width of a composition window that are not the plot's. Twips.
 inline constexpr double kBajoComp = 1350.0, kLadoComp = 1335.0;
 
+/// Gaps below the plot and between the controls, on the screen and on paper, while `ventanas` composition
+/// windows are in use. Twips.
+struct HuecosComp {
+    double vertical, lateral;
+};
+HuecosComp HuecosDe(int ventanas);
+
 /// A column of labels, one a curve: a strip in the cursor's colour, the labels, the bar that scrolls them.
 struct ColumnaComp {
     Lugar marca, barra;
@@ -19,11 +26,10 @@ struct ColumnaComp {
 };
 
 /// Places of the controls of a composition window, in twips from the corner of its inside.
-struct LugaresComp {
+struct LugaresComp : LugaresBotones {
     Lugar Picture1;
     ColumnaComp amarilla, cian;
     Lugar HScroll1, HScroll2, Label1, Label2, lblms;
-    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
     Lugar lbl_PS;
 };
 

@@ -9,8 +9,6 @@ namespace veldix {
 
 namespace {
 
-constexpr double kMenorZoom = 450.0;
-
 /// Widths of the arrow and print buttons are fractions of the zoom button's.
 void ColocaBotones(LugaresOnda& l, double ancho, bool pocas, const MedidasControles& m)
 {

@@ -11,6 +11,8 @@ namespace veldix {
 inline constexpr double kBajoPlot = 1100.0;
 /// The gap between the controls of a wave window, twips.
 inline constexpr double kHueco = 50.0;
+/// The zoom button is never narrower, twips.
+inline constexpr double kMenorZoom = 450.0;
 
 /// Places of `cuenta` windows of one size, 1 to 8: the left column from top to bottom, then the right one.
 /// Raises 5 for another count.
@@ -26,14 +28,18 @@ struct MedidasControles {
     double anchoTiempo = 1000.0;   ///< that the longest time between cursors needs
 };
 
+/// Places of the buttons that all time-domain views have, twips from the corner of the window's inside.
+struct LugaresBotones {
+    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
+};
+
 /// Places of the controls of a wave window, in twips from the corner of its inside; widths follow the outer
 /// size, so that the plot ends under the frame.
-struct LugaresOnda {
+struct LugaresOnda : LugaresBotones {
     Lugar picbox;
     Lugar HScroll1, HScroll2;
     Lugar lblizq, lblamar, lblder, lblcian;
     Lugar lblms, lblDif;
-    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
     Lugar lbl_PS;
 };
 

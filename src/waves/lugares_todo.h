@@ -12,12 +12,11 @@ namespace veldix {
 inline constexpr double kBajoTodo = 900.0, kLadoTodo = 1500.0, kIzquierdaTodo = 1400.0;
 
 /// Places of its controls, in twips from the corner of its inside.
-struct LugaresTodo {
+struct LugaresTodo : LugaresBotones {
     Lugar Picture1;
     std::vector<Lugar> lblet;  ///< two a band: at the yellow and at the cyan cursor
     Lugar HScroll_Nombres;
     Lugar HScroll1, lblam, HScroll2, lblci, lblms;
-    Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
     Lugar lbl_PS;
 };
 

@@ -5,6 +5,7 @@
 #include "platform/enteros.h"
 #include "platform/texto.h"
 #include "platform/textos.h"
+#include "waves/lugares_comp.h"
 #include "waves/marcas_pagina.h"
 #include "waves/plot.h"
 #include "waves/redactor_hoja.h"
@@ -100,8 +101,8 @@ void PonTextosBanda(HojaOndas& h, RedactorHoja& r, const RecordStore& s, int can
 void PonLeyenda(HojaOndas& h, RedactorHoja& r, const RecordStore& s, const std::vector<int>& canales,
                 int ventanas, const DatosHoja& d)
 {
-    const double vertical = ventanas >= 3 ? 10.0 : (ventanas == 2 ? 50.0 : 295.0);
-    const double lateral = ventanas >= 3 ? 10.0 : 100.0, trazo = 500.0;
+    const auto [vertical, lateral] = HuecosDe(ventanas);
+    const double trazo = 500.0;
     const double alto = r.Alto(kPequena),
                  arriba = h.medidas.plot.abajo + kLargoMarca + r.Alto(kNormal) + vertical;
     const double izquierda = r.Izquierda();

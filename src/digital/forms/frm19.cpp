@@ -15,8 +15,7 @@ namespace {
 
 /// Places of the three texts of the reference among those that its bar scrolls.
 constexpr int kLblanalog = 1, kLblamar = 2, kLblcian = 3;
-constexpr int kPantallaEstrecha = 800;  // pixels
-constexpr int kLetraEstrecha = 75;      // percent
+constexpr int kLetraEstrecha = 75;  // percent
 
 std::string ValorReferencia(int muestra)
 {
@@ -103,24 +102,20 @@ void frm19::ColocaControles()
                                                          {HScroll2, &l->HScroll2},
                                                          {lblizq, &l->lblizq},
                                                          {lblder, &l->lblder},
-                                                         {lblms, &l->lbltiempo},
-                                                         {cmdadel, &l->cmdadel},
-                                                         {cmdatras, &l->cmdatras},
-                                                         {pctimpresora, &l->pctimpresora}};
+                                                         {lblms, &l->lbltiempo}};
     for (const auto& [control, lugar] : lugares)
         Pon(control, *lugar);
     for (QLabel* etiqueta : {lblizq, lblder, lblms})
         etiqueta->setFont(font());
-    PonBotonZoom(l->cmdzoom);
+    PonBotones(*l);
     PonReferencia(l->lbl_PS);
 }
 
 void frm19::ColocaPlot(const LugaresDigital& l)
 {
     const double corte = l.label[0].Derecha();
-    const QSignalBlocker calla(plot_);  // it is drawn again by the caller
     Pon(ventanilla_, {corte, 0.0, l.Picture1.Derecha() - corte, l.Picture1.alto});
-    Pon(plot_, {l.Picture1.izquierda - corte, 0.0, l.Picture1.ancho, l.Picture1.alto});
+    PonPlot({l.Picture1.izquierda - corte, 0.0, l.Picture1.ancho, l.Picture1.alto});
 }
 
 /// Names of rows that there are and that the plot has room for, and the texts of the reference; in condensed

@@ -15,6 +15,12 @@ FrmMenu::Principal FrmMenu::principal;
 
 namespace {
 
+/// As it stands under the picture.
+QString TextoVersion()
+{
+    return QString("   %1   ").arg(kTitulo);
+}
+
 QLabel* CreaTitulo(QWidget* padre, const char* nombre, const QString& texto, double tamano)
 {
     auto* l = new QLabel(texto, padre);
@@ -45,7 +51,7 @@ FrmMenu::FrmMenu() : Vista(etiqueta::kMenu)
     mnuFasores->setEnabled(false);
     mnuInform->setEnabled(false);
     mnuanalisis->menuAction()->setEnabled(false);
-    Lblversion = CreaTitulo(this, "Lblversion", "   VELDIX 2.1.7   ", 1.1);
+    Lblversion = CreaTitulo(this, "Lblversion", TextoVersion(), 1.1);
     PideAncho();
     Atrapa(this, [this] { Form_Load(); });
 }
@@ -68,7 +74,7 @@ void FrmMenu::Form_Load()
     PonRotulos();
     mnuFasores->setEnabled(false);
     mnuInform->setEnabled(false);
-    Lblversion->setText("   VELDIX 2.1.7   ");
+    Lblversion->setText(TextoVersion());
 }
 
 QAction* FrmMenu::Entrada(QMenu* menu, const QString& nombre, int texto, const QString& defecto)

@@ -15,6 +15,9 @@
 
 namespace veldix {
 
+/// The program and its version, as its windows show them.
+inline constexpr const char* kTitulo = "VELDIX 2.1.7";
+
 /// The child window that stands when no view is open: the program's picture and the menu bar.
 class FrmMenu : public Vista {
     Q_OBJECT

@@ -35,7 +35,7 @@ constexpr std::size_t kMayorPerfil = 149;  // characters of the converter's comm
 
 bool VersionVieja()
 {
-    return LeerVersionPlantilla(store) == "ver 1.0";
+    return EsVersionVieja(LeerVersionPlantilla(store));
 }
 
 }  // namespace

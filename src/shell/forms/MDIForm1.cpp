@@ -41,7 +41,6 @@ namespace veldix {
 
 namespace {
 
-constexpr const char* kTitulo = "VELDIX 2.1.7";
 constexpr int kReloj = 1000;  // ms
 
 /// Forms in the order in which the program's end unloads them.
@@ -239,7 +238,7 @@ void MDIForm1::PlantillaDeLinea(const std::string& plantilla)
     }
     LeerPlantilla(store);
     ganchosRegistro.LlenarGasolino(true, 5);
-    if (store.VersionPlan == "ver 1.0") return;
+    if (EsVersionVieja(store.VersionPlan)) return;
     EscribeSesion(store);
     if (FrmMenu* menu = FrmMenu::unica.Cargado()) menu->ActivaPlantilla();
     AplicaPlantilla(store);

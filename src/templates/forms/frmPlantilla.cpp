@@ -127,7 +127,7 @@ void frmPlantilla::cmdBuscar_Click()
         Rechaza(estacion);
         return;
     }
-    if (store.VersionPlan == "ver 1.0") {
+    if (EsVersionVieja(store.VersionPlan)) {
         PonPuntero(this, Puntero::Normal);
         return;
     }
@@ -157,7 +157,7 @@ void frmPlantilla::cmdModif_Click()
     if (!HayFichero() || !EsPlantilla()) return;
     store.EstacionAnterior = store.NombreEstacion;
     LeerPlantilla(store);
-    if (store.VersionPlan == "ver 1.0") {
+    if (EsVersionVieja(store.VersionPlan)) {
         PonPuntero(this, Puntero::Normal);
         return;
     }

@@ -111,10 +111,19 @@ void VistaOndas::PonReferencia(const Lugar& lugar)
     lbl_PS->setVisible(hay);
 }
 
-void VistaOndas::PonBotonZoom(const Lugar& lugar)
+void VistaOndas::PonPlot(const Lugar& lugar)
 {
-    Pon(cmdzoom, lugar);
-    cmdzoom->setIcon(lugar.ancho >= anchoZoom_ ? IconoZoom() : QIcon());
+    const QSignalBlocker calla(plot_);
+    Pon(plot_, lugar);
+}
+
+void VistaOndas::PonBotones(const LugaresBotones& l)
+{
+    Pon(cmdzoom, l.cmdzoom);
+    cmdzoom->setIcon(l.cmdzoom.ancho >= anchoZoom_ ? IconoZoom() : QIcon());
+    Pon(cmdadel, l.cmdadel);
+    Pon(cmdatras, l.cmdatras);
+    Pon(pctimpresora, l.pctimpresora);
 }
 
 void VistaOndas::HScroll1_Change()

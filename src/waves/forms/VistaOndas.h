@@ -65,8 +65,10 @@ protected:
     double AltoBajoPlot(double bajo) const;
     /// The label tells which side of a 1997 record is shown, if one was chosen.
     void PonReferencia(const Lugar& lugar);
+    /// Without a drawing, which is left to the caller.
+    void PonPlot(const Lugar& lugar);
     /// A zoom button too narrow for its picture shows its caption alone.
-    void PonBotonZoom(const Lugar& lugar);
+    void PonBotones(const LugaresBotones& l);
 
     Papel papel_;
     Lienzo* plot_;

@@ -60,20 +60,16 @@ void frmTodoanalog::ColocaControles()
     const auto l = ColocaTodo(AnchoVentana(), AltoVentana(), ATwips(Interior().width()), bajo,
                               static_cast<int>(canales_.size()), Medidas(bajo, true));
     if (!l) return;
-    {
-        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
-        Pon(plot_, l->Picture1);
-    }
+    PonPlot(l->Picture1);
     ColocaEtiquetas(*l);
     const std::pair<QWidget*, const Lugar*> lugares[] = {
         {HScroll1, &l->HScroll1}, {HScroll2, &l->HScroll2}, {HScroll_Nombres, &l->HScroll_Nombres},
-        {lblam, &l->lblam},       {lblci, &l->lblci},       {lblms, &l->lblms},
-        {cmdadel, &l->cmdadel},   {cmdatras, &l->cmdatras}, {pctimpresora, &l->pctimpresora}};
+        {lblam, &l->lblam},       {lblci, &l->lblci},       {lblms, &l->lblms}};
     for (const auto& [control, lugar] : lugares)
         Pon(control, *lugar);
     for (QLabel* etiqueta : {lblam, lblci, lblms})
         etiqueta->setFont(font());
-    PonBotonZoom(l->cmdzoom);
+    PonBotones(*l);
     PonReferencia(l->lbl_PS);
 }
 

@@ -14,8 +14,8 @@ namespace veldix {
 
 namespace {
 
-constexpr int kPantallaEstrecha = 800, kMenorLinea = 11;  // pixels
-constexpr int kLineas = 3;                                // of a name and its value
+constexpr int kMenorLinea = 11;  // pixels
+constexpr int kLineas = 3;       // of a name and its value
 
 constexpr int kFranja = 5;  // pixels of a curve's colour at its label's edge
 
@@ -134,10 +134,7 @@ void frmVerCmpang::ColocaControles()
     PreparaBarras();
     const auto l = ColocaComposicion(t, Medidas(bajo - 2.0 * kHueco));
     if (!l) return;
-    {
-        const QSignalBlocker calla(plot_);  // it is drawn again by the caller
-        Pon(plot_, l->Picture1);
-    }
+    PonPlot(l->Picture1);
     const std::pair<QWidget*, const Lugar*> lugares[] = {{HScroll1, &l->HScroll1},
                                                          {HScroll2, &l->HScroll2},
                                                          {Label1, &l->Label1},
@@ -148,7 +145,8 @@ void frmVerCmpang::ColocaControles()
     lblms->setFont(font());
     ColocaColumna(l->amarilla, marcamar, lblam, HScroll_Amar);
     ColocaColumna(l->cian, marcaci, lblci, HScroll_Cian);
-    ColocaBotones(*l);
+    PonBotones(*l);
+    if (gris_) cmdzoom->setIcon(QIcon());
     PonReferencia(l->lbl_PS);
 }
 
@@ -168,17 +166,6 @@ void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasC
         Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);
         etiqueta->setFont(letra);
     }
-}
-
-void frmVerCmpang::ColocaBotones(const LugaresComp& l)
-{
-    if (gris_)
-        Pon(cmdzoom, l.cmdzoom);
-    else
-        PonBotonZoom(l.cmdzoom);
-    Pon(cmdadel, l.cmdadel);
-    Pon(cmdatras, l.cmdatras);
-    Pon(pctimpresora, l.pctimpresora);
 }
 
 void frmVerCmpang::Curvas(int s, int e)

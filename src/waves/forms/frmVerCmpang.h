@@ -39,7 +39,6 @@ private:
     EtiquetasCorridas* CreaColumna(const char* nombre, BarraCursor* barra);
     void ColocaControles();
     void ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasCorridas* textos, BarraCursor* barra);
-    void ColocaBotones(const LugaresComp& l);
     void Dibuja();
     void PonEtiquetas(EtiquetasCorridas* textos, int muestra);
 

@@ -47,15 +47,12 @@ void frmVerOndas::ColocaControles()
 {
     const auto lugares = ColocaOnda(AnchoVentana(), AltoVentana(), qAbs(store.NumVentanasOnda),
                                     Medidas(AltoBajoPlot(kBajoPlot) - 2.0 * kHueco));
-    if (lugares) {
-        const QSignalBlocker calla(plot_);  // it is drawn again below, with the margin of the new size
-        Pon(plot_, lugares->picbox);
-    }
+    if (lugares) PonPlot(lugares->picbox);  // it is drawn again below, with the margin of the new size
     Reinicia();
     if (!lugares) return;
     ColocaBarras(*lugares);
     ColocaEtiquetas(*lugares);
-    ColocaBotones(*lugares);
+    PonBotones(*lugares);
     PonReferencia(lugares->lbl_PS);
 }
 
@@ -88,14 +85,6 @@ void frmVerOndas::ColocaEtiquetas(const LugaresOnda& l)
     PonTexto(lblcian, valor);
     PonTexto(lblms, "0.000 ms");
     PonTexto(lblDif, Q("0.000 " + unidades));
-}
-
-void frmVerOndas::ColocaBotones(const LugaresOnda& l)
-{
-    PonBotonZoom(l.cmdzoom);
-    Pon(cmdadel, l.cmdadel);
-    Pon(cmdatras, l.cmdatras);
-    Pon(pctimpresora, l.pctimpresora);
 }
 
 void frmVerOndas::PintaOndas()

@@ -28,7 +28,6 @@ private:
     void ColocaControles();
     void ColocaBarras(const LugaresOnda& l);
     void ColocaEtiquetas(const LugaresOnda& l);
-    void ColocaBotones(const LugaresOnda& l);
     void PintaOndas();
 
     QLabel *lblizq, *lblder, *lblamar, *lblcian, *lblDif;
