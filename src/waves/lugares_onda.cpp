@@ -60,10 +60,11 @@ std::optional<LugaresOnda> ColocaOnda(double ancho, double alto, int ventanas, c
     l.lblDif = {derecha, debajo, tercio, m.altoEtiqueta};
 
     const bool pocas = ventanas <= 3;
-    ColocaBotones(l, ancho, pocas, m);
+    const double dentro = ancho - m.anchoMarco;  // what ends at the right edge is not to lie under the frame
+    ColocaBotones(l, dentro, pocas, m);
     const Lugar& ultimo = l.pctimpresora;
     l.lbl_PS = {ultimo.Derecha(), pocas ? ultimo.Abajo() - m.altoEtiqueta : l.lblizq.arriba + kHueco,
-                std::max(0.0, ancho - ultimo.Derecha() - 2.0 * kHueco), m.altoEtiqueta};
+                std::max(0.0, dentro - ultimo.Derecha() - 2.0 * kHueco), m.altoEtiqueta};
     return l;
 }
 

@@ -26,6 +26,7 @@ struct MedidasControles {
     double anchoReferencia = 0.0;  ///< that the reference label needs
     double anchoNumero = 900.0;    ///< that the longest sample number needs
     double anchoTiempo = 1000.0;   ///< that the longest time between cursors needs
+    double anchoMarco = 0.0;       ///< of the window's frame, both sides
 };
 
 /// Places of the buttons that all time-domain views have, twips from the corner of the window's inside.

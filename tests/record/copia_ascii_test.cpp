@@ -243,6 +243,7 @@ TEST_F(CopiaAscii, FilesOfTwoRecordsAreMixed)
         {{"x.DAT", "X.dat", "X.cfg"}, "x", "x.DAT", "x.cfg"},
         {{"x.cfg", "X.Dat"}, "x", "X.Dat", "X.cfg"},
         {{"x.DAT", "x.dAt", "x.daT"}, "x", "x.DAT", "x.cfg"},
+        {{"x.dAT", "x.Dat", "x.daT"}, "x", "x.Dat", "x.cfg"},
     };
     Abre();
     for (const auto& k : casos) {

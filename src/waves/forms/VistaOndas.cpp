@@ -71,6 +71,7 @@ MedidasControles VistaOndas::Medidas(double alto, bool unaFila) const
     m.altoBarra = qMin(ATwips(HScroll1->sizeHint().height()), unaFila ? alto : alto / 2.0);
     m.altoEtiqueta = qMin(ATwips(letra.height()), unaFila ? alto : alto - m.altoBarra);
     m.anchoZoom = anchoZoom_;
+    m.anchoMarco = AnchoVentana() - ATwips(Interior().width());
     m.anchoNumero = ATwips(letra.horizontalAdvance(Q(TextoMuestra(32767)) + " "));
     m.anchoTiempo = ATwips(letra.horizontalAdvance("00000.000 ms "));
     if (store.RevisionCfg == "1997")
