@@ -108,7 +108,8 @@ void VistaOndas::PonReferencia(const Lugar& lugar)
 {
     Pon(lbl_PS, lugar);
     const bool hay = store.RevisionCfg == "1997" && (store.EnPrimario || store.EnSecundario);
-    if (hay) lbl_PS->setText(Q(store.EnPrimario ? Rotulo(279, "PRIMARIO") : Rotulo(280, "SECUNDARIO")));
+    lbl_PS->setFont(font());
+    if (hay) PonTexto(lbl_PS, Q(store.EnPrimario ? Rotulo(279, "PRIMARIO") : Rotulo(280, "SECUNDARIO")));
     lbl_PS->setVisible(hay);
 }
 
