@@ -44,13 +44,13 @@ namespace {
 constexpr int kReloj = 1000;  // ms
 
 /// Forms in the order in which the program's end unloads them.
-constexpr const char* kOrdenFinal[] = {"Conversion",       "frm19",          "frmAjustes",   "frmAnalog",
-                                       "frmNewCompanalog", "frmDirect",      "frmDigital",   "frmFases",
-                                       "frmFasecuencias",  "frmGrid",        "frmElecdig",   "FrmMenu",
-                                       "frmNuevosTools",   "frmNewOndas",    "frmPlantilla", "frmSalvaPlan",
-                                       "frmSecuencias",    "frmTodoanalog",  "frmTrifasic",  "frmVerCmpang",
-                                       "frmVerOndas",      "Mensaje",        "poscamb",      "gasolino",
-                                       "gasolino2",        "gasolino_ondas", "frmBaseModelo"};
+constexpr const char* kOrdenFinal[] = {
+    "Conversion",       "frm19",          "frmAjustes",    "frmAnalog",      "frmAbrirComtrade",
+    "frmNewCompanalog", "frmDirect",      "frmDigital",    "frmFases",       "frmFasecuencias",
+    "frmGrid",          "frmElecdig",     "FrmMenu",       "frmNuevosTools", "frmNewOndas",
+    "frmPlantilla",     "frmSalvaPlan",   "frmSecuencias", "frmTodoanalog",  "frmTrifasic",
+    "frmVerCmpang",     "frmVerOndas",    "Mensaje",       "poscamb",        "gasolino",
+    "gasolino2",        "gasolino_ondas", "frmBaseModelo"};
 
 void DescargaTodas(const QString& nombre)
 {
