@@ -1,9 +1,11 @@
 #include "digital/forms/GrupoEtiquetas.h"
 
+#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -36,6 +38,13 @@ protected:
         QPainter pintor(this);
         pintor.setPen(QPen(palette().color(foregroundRole()), 2));
         pintor.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+    /// A name that is cut is told in full, as under the pointer.
+    void focusInEvent(QFocusEvent* evento) override
+    {
+        QLabel::focusInEvent(evento);
+        if (evento->reason() != Qt::MouseFocusReason && text() != accessibleName())
+            QToolTip::showText(mapToGlobal(rect().bottomLeft()), toolTip(), this);
     }
 };
 

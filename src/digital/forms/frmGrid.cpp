@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/numeros.h"
@@ -36,7 +38,11 @@ void frmGrid::Abre()
 {
     PonPuntero(escena.principal, Puntero::Espera);  // channels are looked through meanwhile
     unica.CargaNueva();
-    if (frmGrid* form = unica.Cargado()) form->Presenta(form->Frame1);
+    if (frmGrid* form = unica.Cargado()) {
+        form->Presenta(form->Frame1);
+        static_cast<void>(std::any_of(form->grupos_.begin(), form->grupos_.end(),
+                                      [](GrupoEtiquetas* grupo) { return grupo->Enfoca(1); }));
+    }
     PonPuntero(escena.principal, Puntero::Normal);
 }
 

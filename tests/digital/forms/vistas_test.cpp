@@ -88,6 +88,7 @@ TEST_F(DigitalTest, ClicksChooseDoubleClicksReleaseAndTheTwentiethIsRefused)
     const std::string blanco = Fondo(1, 2), azul = "#c0c0ff", amarillo = "#ffff00";
     EXPECT_EQ(Fondo(1, 1), azul);
     EXPECT_NE(blanco, azul);
+    EXPECT_EQ(frmGrid::unica.Cargado()->focusWidget(), Canal(1, 1));
     EXPECT_TRUE(Canal(1, 0)->isEnabled() && Canal(2, 19)->isEnabled());
     EXPECT_FALSE(Canal(1, 4)->isEnabled() || Canal(4, 0)->isEnabled());
     for (const auto& [k, j] : {std::pair{1, 0}, {1, 4}, {4, 0}, {16, 19}})
