@@ -242,12 +242,15 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
         EXPECT_NEAR(h.cajas[0].y1, banda + 3 * fila, 0.01);
         EXPECT_NEAR(h.cajas[0].y2, banda + 3 * fila - 75 * kRy, 0.01);
         EXPECT_EQ(h.cajas[0].color, color);
+        EXPECT_NEAR(h.dentro[1].y1, banda + 2 * fila, 0.01);
         EXPECT_NEAR(h.dentro[3].x1, 3000.0 + 10 * kPaso, 0.01);  // the yellow cursor
         ImprimeHoja(imp, h);
         EXPECT_EQ(imp.De(Tipo::Caja).size(), 1U);
         EXPECT_EQ(imp.Primero("60").texto + imp.Primero("150").texto, "60  60.000 kA150  150.000 kA");
         for (const char* texto : {"/r/falta.dat", "90.000 ms", "D1", "D2", "Ia", "0 kA  ", "100", "hoy"})
             EXPECT_EQ(imp.Primero(texto).texto, texto);
+        const auto nombre = imp.Primero("D1");
+        EXPECT_NEAR(nombre.ys[0] + 240.0 * nombre.letra.puntos / 9.0, banda + 2 * fila, 0.01) << "its row";
         const double titulo = imp.Primero("G1").ys[0], fichero = imp.Primero("Fichero").ys[0];
         const double cursores = imp.Primero("Cursor 1").ys[0];
         EXPECT_TRUE(titulo + 200 < fichero && fichero + 200 < cursores && cursores + 200 < 1000.0);
@@ -265,7 +268,9 @@ TEST(PaginaDigital, AZoomedStretchStandsElsewhereOnPaper)
 TEST(LugaresDigital, LabelsAndNamesMissTheirPlacesOrTheFrame)
 {
     const LugaresGrid g = ColocaGrid({19104.0, 10870.0, 19044.0, 10400.0});
-    EXPECT_GE(g.Grupo(9).arriba, 20 * g.paso);
+    EXPECT_NEAR(g.anchoEtiqueta, 10870.0 / 7.0, 0.1);
+    EXPECT_NEAR(g.Grupo(16).izquierda, 7 * g.anchoEtiqueta, 0.1);
+    EXPECT_NEAR(g.Grupo(9).arriba, 20 * g.paso + 16.0, 0.1);
     EXPECT_LE(g.Grupo(16).Abajo(), 10400.0 + 0.1);
     EXPECT_NEAR(ColocaGrid({9526.0, 6117.0, 9406.0, 9000.0}).altoEtiqueta, 9526.0 / 63.0, 0.1);
     EXPECT_NEAR(ColocaGrid({12000.0, 20000.0, 11900.0, 19500.0}).resto.Derecha(), 11900.0 - 120.0, 0.1);
@@ -278,6 +283,8 @@ TEST(LugaresDigital, LabelsAndNamesMissTheirPlacesOrTheFrame)
         EXPECT_NEAR(l->label[18].Abajo(), BaseFila(19, AltoFila(7900.0)), 0.01);
         EXPECT_LT(l->label[18].Derecha(), l->Picture1.izquierda + 1200.0);
         EXPECT_NEAR(l->lblamar.ancho, (ancha ? 1.0 : 0.75) * l->label[0].ancho, 0.01);
+        EXPECT_EQ(l->lblizq.izquierda, l->HScroll1.izquierda);
+        EXPECT_EQ(l->lblder.izquierda, l->HScroll2.izquierda);
         EXPECT_GE(l->lbl_PS.izquierda, l->pctimpresora.Derecha());
     }
     EXPECT_FALSE(ColocaDigital({12000.0, 1300.0, 11900.0, 600.0}, m));

@@ -68,6 +68,13 @@ protected:
         Asienta();
     }
 
+    /// The colour in the middle of a control, as it is painted.
+    static QRgb Centro(QWidget* control)
+    {
+        const QImage imagen = control->grab().toImage();
+        return imagen.pixel(imagen.rect().center()) & 0xFFFFFFU;
+    }
+
     RespondeCajas cajas;
     QMainWindow principal;
     QMdiArea* area = new QMdiArea;

@@ -150,6 +150,7 @@ TEST(PaginaOndas, BandsShareTheTimeAxisAndLeaveTheLastSampleOut)
     std::vector<int> canales;
     for (int r = 1; r <= 8; ++r)
         canales.push_back(r);
+    s.Muestras(301, 3) = 7.0F;
     const Bandas bandas = ColocaBandas(s, canales, 6000.0F);
     const std::uint32_t colores[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x00FFFF, 0xFFFF00, 0xFF00FF, 0, 0x0000FF};
     for (const ModoColor modo : {ModoColor::Color, ModoColor::Monocromo}) {
@@ -167,6 +168,7 @@ TEST(PaginaOndas, BandsShareTheTimeAxisAndLeaveTheLastSampleOut)
         EXPECT_NEAR(h->curvas[7].ys[0], cero - 10.0 * bandas.escalas[7] * ry, 0.01);
         ImprimeHoja(imp, *h);
         EXPECT_EQ(imp.Primero(" min -").texto, " min -40,000 A");  // of column 1, which is row 8
+        EXPECT_EQ(std::ranges::count(imp.ops, "Cursor 2: 7,000 A", &prueba::OperacionPagina::texto), 1);
         EXPECT_EQ(std::ranges::count(imp.ops, "0 A  ", &prueba::OperacionPagina::texto), 8);
         EXPECT_EQ(imp.De(Tipo::Recorte).at(0).xs, (std::vector{3000.0, 18400.0}));
     }
@@ -181,10 +183,12 @@ TEST(PaginaOndas, CompositionsHaveALegendInTheirCurvesColours)
     for (const int ventanas : {1, 3}) {
         Grabadora imp;
         const auto h = HojaDeComposicion(s, imp, {2, 3, 6}, kNiveles[1], escala, ventanas,
-                                         {"Ventana 1", 1, 1, "", "", ""});
+                                         {"Ventana 1", 19, 20, "", "", ""});
         ASSERT_TRUE(h && h->curvas.size() == 3);
         ImprimeHoja(imp, *h);
         EXPECT_EQ(imp.Primero("0 kV").texto, "0 kV  ");
+        const char* seis = " max 10,000 A min -40,000 A  Cursor 1: 10,000 A  Cursor 2: -40,000 A";
+        EXPECT_EQ(std::ranges::count(imp.ops, seis, &prueba::OperacionPagina::texto), 1);
         const auto clave = h->rayas.at(h->rayas.size() - 3);
         EXPECT_EQ(clave.color, 0x0000FFU);
         EXPECT_NEAR(clave.x2 - clave.x1, 500.0, 0.01);

@@ -20,6 +20,7 @@ TEST(Colores, ACurveNeverTakesACursorColour)
                                      0x800080, 0xFF00FF, 0xFFFFFF, 0x000000};
     for (int canal = 1; canal <= 24; ++canal)
         EXPECT_EQ(ColorCurva(s.Colores, canal), colores[(canal - 1) % 8]) << canal;
+    EXPECT_EQ((std::pair{ColorPaleta(14), ColorPaleta(11)}), (std::pair{kCursorAmarillo, kCursorCian}));
     EXPECT_EQ(NumeroDeError([] { ColorPaleta(16); }), 9);
     EXPECT_EQ(NumeroDeError([&] { ColorCurva(s.Colores, -1); }), 9);
 }

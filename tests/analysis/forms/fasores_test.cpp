@@ -111,6 +111,21 @@ TEST_F(FasoresTest, PhasesAreDrawnWithAnotherScaleFactorOrText)
     ASSERT_TRUE(f && !menu && Abiertas() == 1 && store.ModoFasecuencia == 1);
     auto* plot = Da<Lienzo>("Picture1", f);
     const double radio = std::min(plot->Ancho(), plot->Alto()) / 2.0;
+    EXPECT_NEAR(plot->Alto(), 0.64 * ATwips(f->height()), 15.0);
+    std::vector<OperacionLienzo> ops;
+    plot->PonGrabadora(&ops);
+    Q_EMIT plot->PideDibujo();
+    plot->PonGrabadora(nullptr);
+    ASSERT_EQ(ops.size(), 3U);
+    EXPECT_EQ(ops[1].ys, std::vector(2, plot->Alto() / 2.0));
+    EXPECT_EQ(ops[2].xs, std::vector(2, plot->Ancho() / 2.0));
+    const std::uint32_t colores[] = {0x00FFFF, 0xFFFF00, 0xFF00FF, 0x0000FF, 0x00FF00, 0xFF0000};
+    for (std::size_t i = 0; i < 6; ++i) {
+        const std::string n = std::to_string(i + 1);
+        EXPECT_EQ(Da<QLabel>("Label" + n, f)->pixmap().toImage().pixel(10, 5) & 0xFFFFFFU, colores[i]) << n;
+        const bool llana = i % 3 == 0;  // its middle is on it
+        EXPECT_TRUE(!llana || Centro(Da<LineaLibre>("Line" + n, f)) == colores[i]) << n;
+    }
     EXPECT_NEAR(Linea("Line1", f).dx(), radio, 0.001 * radio) << "the largest phasor reaches the edge";
     EXPECT_NEAR(Linea("Line2", f).angle(), 240.0, 0.01) << "lag of 120: below, on the left";
     EXPECT_EQ(Texto("LblCorrienteB", f) + Texto("LblTensionC", f), "C2: 100. @ 240.AC6: 50. @ 120.V");

@@ -139,14 +139,21 @@ TEST_F(DigitalTest, ByHandTheChosenStandInTheOrderOfTheGroups)
     EXPECT_EQ(Texto("lblamar", v), std::to_string(2 * Valor(1, 3)) + ",000 A");
     EXPECT_EQ(Texto("lblizq", v) + Texto("lblder", v) + Texto("lbltiempo", v), "110 ms");
     const auto ops = Graba(v);
-    const double h = v->Plot()->Alto(), fila = (h - 200) / 24, paso = (v->Plot()->Ancho() - 1400) / 960;
-    EXPECT_EQ(De(ops, Tipo::Linea).size(), 4U);  // two axes and the rows that hold something
-    const auto cajasPlot = De(ops, Tipo::Cajas);
-    ASSERT_EQ(cajasPlot.size(), 2U);
-    EXPECT_NEAR(cajasPlot[0].xs[0], 1200 + 400 * paso, 0.05);
-    EXPECT_NEAR(cajasPlot[0].ys[0], 1200 + 2 * fila, 0.01);
-    EXPECT_EQ(cajasPlot[1].xs[0], 1200.0);
+    const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), fila = (h - 200) / 24;
+    const double paso = (w - 1400) / 960;
+    const auto lineas = De(ops, Tipo::Linea), cajasPlot = De(ops, Tipo::Cajas);
+    ASSERT_EQ(lineas.size() * 10 + cajasPlot.size(), 42U);  // two axes and the rows that hold something
+    EsTrazo(lineas[0], 1200, 100, 1200, h - 100);
+    EsTrazo(lineas[1], 1200, 600, w - 200, 600);
+    for (const std::size_t n : {2U, 3U}) {
+        const double base = 1200 + static_cast<double>(n) * fila;
+        EsTrazo(lineas[n], 1200, base, w - 200, base);
+        EsTrazo(cajasPlot[n - 2], n == 2 ? 1200 + 400 * paso : 1200, base,
+                n == 2 ? 1200 + 500 * paso : w - 200, base - 75);
+        EXPECT_EQ(cajasPlot[n - 2].color & 0xFFFFFFU, 0x0000FFU);
+    }
     const auto curva = De(ops, Tipo::Poligonal).at(0);
+    EXPECT_EQ(curva.color & 0xFFFFFFU, 0xFF0000U);  // of row 3
     EXPECT_NEAR(curva.xs[0], 1200 + paso, 0.05);
     EXPECT_NEAR(curva.ys[0], 600 - 600.0 * 2 * Valor(1, 3) / 120, 0.05);  // the largest is 3 * 20, primary
     v->Ventana().close();
@@ -292,11 +299,16 @@ TEST_F(DigitalTest, APageShowsAnotherStretchOrChannelThanTheView)
     Pulsa("pctimpresora", v);
     using Op = prueba::OperacionPagina;
     EXPECT_EQ(impresora->De(Op::Tipo::Pagina).size(), 1U);
-    EXPECT_EQ(impresora->De(Op::Tipo::Caja).size(), 4U);
+    const auto cajasPapel = impresora->De(Op::Tipo::Caja);
+    ASSERT_EQ(cajasPapel.size(), 4U);
+    const double ancho = 16838.0 * (0.92 - 0.15);
+    EXPECT_NEAR(cajasPapel[0].xs[1] - cajasPapel[0].xs[0], ancho * 49 / 200, 1.0);
+    EXPECT_NEAR(cajasPapel[1].xs[1] - cajasPapel[1].xs[0], ancho, 1.0);
     for (const std::string& texto : {std::string("GRUPO 1"), std::string("LARGA 3"), std::string("10,000 ms"),
                                      "Muestra n.º 471  " + std::to_string(Valor(471, 3)) + ",000 A",
                                      "Muestra n.º 481  " + std::to_string(Valor(481, 3)) + ",000 A"})
         EXPECT_EQ(impresora->Primero(texto).texto, texto);
+    EXPECT_LT(impresora->Primero("Muestra n.º 471").xs[0], impresora->Primero("Muestra n.º 481").xs[0]);
     auto ys = std::ranges::find(impresora->ops, 200U, [](const auto& o) { return o.xs.size(); })->ys;
     std::ranges::sort(ys);
     EXPECT_TRUE(ys[199] - ys[1] < 5.0 && ys[1] - ys[0] > 500.0) << "the curve of another channel";

@@ -45,7 +45,12 @@ TEST_F(ComposicionTest, ThirdWindowAloneIsCaptionedAsTheFirstAndCurvesShareAScal
     const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), escala = (h - 2 * h / 50) / 2 / 120;
     EXPECT_NEAR(curvas[1].xs.back(), 959 * w * 48 / 50 / 960 + w / 50, 0.1);
     EXPECT_NEAR(curvas[1].ys.back(), h / 2 - Valor(960, 3) * escala, 0.1);  // row 2 is column 3
-    EXPECT_EQ(curvas[5].color & 0xFFFFFFU, 0xFF00FFU);
+    const std::uint32_t colores[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x000080, 0x800080, 0xFF00FF};
+    for (std::size_t k = 0; k < 6; ++k) {
+        EXPECT_EQ(curvas[k].color & 0xFFFFFFU, colores[k]) << k;
+        const auto* canto = Da<QLabel>("lblam" + std::to_string(k + 1), v)->findChild<QLabel*>();
+        EXPECT_EQ(canto->palette().window().color().rgb() & 0xFFFFFFU, colores[k]) << k;
+    }
     Da<QScrollBar>("HScroll2", v)->setValue(22);
     EXPECT_EQ(Texto("Label1", v) + Texto("Label2", v), " No.: 1 No.: 22");
     EXPECT_EQ(Texto("lblci2", v), "I2: " + std::to_string(Valor(22, 3)) + ",000 A");
@@ -74,6 +79,9 @@ TEST_F(ComposicionTest, WindowsZoomByThemselvesAndCloseByThemselves)
     EXPECT_EQ(otra->Zoom().NivelZoom, 1);
     EXPECT_EQ(una->Zoom().NivelZoom, 0);
     EXPECT_EQ(store.FactorZoomY, 3.0F);
+    const std::vector<int> visto = Estado(otra);
+    Da<QScrollBar>("HScroll2", otra)->setValue(visto[3]);
+    EXPECT_EQ(CurvaImpresa(otra).xs.size(), static_cast<std::size_t>(visto[3] - visto[0] + 1));
     Pulsa("cmdzoom", otra);
     EsperaAmpliar();
     cajas.Espera("El tramo elegido es demasiado corto: debe abarcar al menos dos muestras.",

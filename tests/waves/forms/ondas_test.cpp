@@ -58,15 +58,18 @@ TEST_F(OndasTest, EightChannelsStandInRisingOrderWhateverTheirSlots)
     EXPECT_EQ(avance, "[Preparando las ondas... 30 60 80 100]");
     EXPECT_TRUE(!menu && muestras == 0);
     EXPECT_EQ(Abiertas(), 8);
-    std::vector<std::pair<int, int>> lugares;
+    const double alto = 2609.0 / 15, ancho = 7642.0 / 15;  // of 10435 x 15284 twips
+    int k = 0;
     for (const int r : {1, 2, 3, 4, 5, 7, 8, 9}) {
         frmVerOndas* v = store.VentanaOnda(r);
         ASSERT_TRUE(v && v->isVisible()) << r;
         EXPECT_EQ(U(v->windowTitle()), "I" + std::to_string(r));
         EXPECT_EQ(Estado(v), todo);
-        lugares.emplace_back(v->Ventana().x(), v->Ventana().y());
+        const QPointF lugar((k / 4) * ancho, (k % 4) * alto);  // down the left column, then the right one
+        EXPECT_LE((v->Ventana().pos() - lugar).manhattanLength(), 2) << r;
+        EXPECT_LE((v->Ventana().rect().bottomRight() - QPointF(ancho, alto)).manhattanLength(), 4) << r;
+        ++k;
     }
-    EXPECT_TRUE(std::ranges::is_sorted(lugares)) << "down the left column, then the right one";
 }
 
 TEST_F(OndasTest, SlotsFollowMouseAndKeysAndKeepBadNames)
@@ -262,7 +265,12 @@ TEST_F(OndasTest, DrawsAxesAndEverySampleAndNoVerticalAxisOnceZoomed)
     auto ops = Graba(v);
     const double w = v->Plot()->Ancho(), h = v->Plot()->Alto(), escala = (h - 2 * h / 50) / 2 / 40;
     ASSERT_EQ(ops.size(), 4U);
-    EXPECT_NEAR(ops[2].xs[1], w / 50, 0.01);
+    EsTrazo(ops[1], w / 50, h / 2, 49 * w / 50, h / 2);
+    EsTrazo(ops[2], w / 50, h / 50, w / 50, 49 * h / 50);
+    auto *una = Da<LineaSobre>("Lineizq", v), *otra = Da<LineaSobre>("Lineder", v);
+    EXPECT_GE(qMin(una->height(), otra->height()), v->Plot()->height());
+    Cursores(v, 400, 600);
+    EXPECT_EQ((std::pair{Centro(una), Centro(otra)}), (std::pair{0xFFFF00U, 0x00FFFFU}));
     ASSERT_EQ(ops[3].xs.size(), 960U);
     EXPECT_NEAR(ops[3].ys.back(), h / 2 - Valor(960, 2) * escala, 0.1);
     EXPECT_EQ(ops[3].color & 0xFFFFFFU, 0xFF0000U);  // of row 3, though the curve is column 2
@@ -270,7 +278,17 @@ TEST_F(OndasTest, DrawsAxesAndEverySampleAndNoVerticalAxisOnceZoomed)
     const int ph = v->Plot()->height();
     for (const int y1 : {ph / 4, 0}) {  // the zero line is in the first box, below the second
         Amplia(v, {200, y1}, {400, y1 + ph / 4 + 20});
-        EXPECT_EQ(De(Graba(v), Tipo::Linea).size(), y1 > 0 ? 1U : 0U);
+        const double factor = h / (15.0 * (ph / 4 + 20)), origen = (h / 2 - 15.0 * y1) * factor;
+        const int e = Da<QScrollBar>("HScroll1", v)->maximum();
+        for (const bool guardado : {false, true}) {
+            SCOPED_TRACE(guardado ? "by the stored level" : "by the box");
+            if (guardado) Pulsa("cmdatras", v), Pulsa("cmdadel", v);
+            ops = Graba(v);
+            ASSERT_EQ(De(ops, Tipo::Linea).size(), y1 > 0 ? 1U : 0U);
+            if (y1 > 0) EsTrazo(ops[1], w / 50, origen, w, origen);
+            EXPECT_NEAR(ops.back().xs.back(), 49 * w / 50, 0.1);
+            EXPECT_NEAR(ops.back().ys.back(), origen - factor * Valor(e, 2) * escala, 0.1);
+        }
         Estira(v);
     }
 }
@@ -285,10 +303,13 @@ TEST_F(OndasTest, APageIsThatOfTheLevelAndLeavesTheSharedFactor)
     const prueba::Grabadora* impresora = imprime.impresora.get();
     Pulsa("pctimpresora", v);
     EXPECT_EQ(store.FactorZoomY, 7.0F);
-    const auto curva = impresora->De(prueba::OperacionPagina::Tipo::Poligonal).back();
+    const auto curva = CurvaImpresa(v);
     const Vistos vistos = Estado(v);
     EXPECT_EQ(static_cast<int>(curva.xs.size()), vistos[3] - vistos[0] + 1);
     EXPECT_EQ(curva.color, 0x0000FFU);
+    const double h = v->Plot()->Alto(), factor = h / 1500, ry = (0.82 * 11906 - 0.05 * 16838) / h;
+    const double unidad = (h - h / 25) / 2 / 40 * factor * ry;
+    EXPECT_NEAR(curva.ys[0], 841.9 + (h / 2 - 1500) * factor * ry - Valor(vistos[0], 2) * unidad, 0.5);
     EXPECT_EQ(impresora->Primero("5,000 ms").texto, Texto("lblms", v));
     EXPECT_EQ(impresora->Primero(Texto("lblDif", v)).texto, Texto("lblDif", v));
 }

@@ -3,8 +3,10 @@
 #include <QListWidget>
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/escenario.h"
+#include "support/imprime.h"
 #include "waves/forms/VistaCursores.h"
 
 namespace veldix::prueba {
@@ -127,6 +129,28 @@ protected:
         std::vector<OperacionLienzo> suyas;
         std::ranges::copy_if(ops, std::back_inserter(suyas), [&](const auto& o) { return o.tipo == tipo; });
         return suyas;
+    }
+
+    /// Of a line, or of a row's only box: two opposite corners.
+    static void EsTrazo(const OperacionLienzo& o, double x1, double y1, double x2, double y2)
+    {
+        ASSERT_TRUE(o.tipo != Tipo::Limpia && o.xs.size() == 2 && o.ys.size() == 2);
+        EXPECT_LT(std::hypot(o.xs[0] - x1, o.ys[0] - y1) + std::hypot(o.xs[1] - x2, o.ys[1] - y2), 0.1)
+            << o.xs[0] << ' ' << o.ys[0] << " to " << o.xs[1] << ' ' << o.ys[1];
+    }
+    /// Prints a view: the first cursor's sample stands left of the second one's. The last curve.
+    static OperacionPagina CurvaImpresa(VistaOndas* v)
+    {
+        const Imprime imprime(1);
+        RegistroOndas::Pulsa("pctimpresora", v);
+        double x = 1.0;
+        for (const char* barra : {"HScroll1", "HScroll2"}) {
+            const std::string texto = Textos(266) + std::to_string(Da<QScrollBar>(barra, v)->value());
+            const double suya = imprime.impresora->Primero(texto).xs[0];
+            EXPECT_LT(x, suya) << texto;
+            x = suya;
+        }
+        return imprime.impresora->De(OperacionPagina::Tipo::Poligonal).back();
     }
 
     Separa separa{",", "."};

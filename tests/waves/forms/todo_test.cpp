@@ -49,6 +49,9 @@ TEST_F(TodoTest, EightBandsShowTheirRowsValuesAndTheirColumnsCurves)
     EXPECT_NEAR(primera.ys[21], banda / 2 - Valor(22, 3) * (banda - banda / 25) / 2 / 180, 0.1);
     EXPECT_EQ(primera.color & 0xFFFFFFU, 0x00FF00U);
 
+    EXPECT_EQ(U(Da<QLabel>("lblet1", v)->palette().window().color().name()), "#ffff00");
+    EXPECT_EQ(U(Da<QLabel>("lblet2", v)->palette().window().color().name()), "#00ffff");
+
     Cursores(v, 22, 960);
     EXPECT_EQ(Texto("lblet1", v), "I2: " + std::to_string(Valor(22, 2)) + ",000 A");
     EXPECT_EQ(Texto("lblet16", v), "CIRCUITO LARGO: " + std::to_string(Valor(960, 9)) + ",000 A");
@@ -89,9 +92,13 @@ TEST_F(TodoTest, ZoomsBetweenTheCursorsAndTellsItsEnds)
     Cursores(v, 401, 201);
     Pulsa("cmdzoom", v);
     EXPECT_EQ(Estado(v), (std::vector{201, 201, 201, 401, 1, 2}));
-    ASSERT_EQ(Graba(v).back().xs.size(), 200U);  // the last sample is not joined
+    const double w = v->Plot()->Ancho();
+    const auto curva = Graba(v).back();
+    ASSERT_EQ(curva.xs.size(), 200U);  // the last sample is not joined
+    EXPECT_NEAR(curva.xs.back(), 199 * (w - 100) / 200 + 50, 0.1);
     Da<QScrollBar>("HScroll2", v)->setValue(401);
-    EXPECT_NEAR(LineaX("lnci", v), v->Plot()->Ancho() - 100, 15);
+    EXPECT_NEAR(LineaX("lnci", v), w - 100, 15);
+    EXPECT_EQ(CurvaImpresa(v).xs.size(), 200U);
     Pulsa("cmdatras", v);
     EXPECT_EQ(Estado(v), (std::vector{1, 1, 1, 960, 0, 2}));
     EXPECT_EQ(Graba(v).back().xs.size(), 959U);  // now the zoom's rule holds for the whole record too
