@@ -246,6 +246,7 @@ TEST_F(CopiaAscii, FilesOfTwoRecordsAreMixed)
         {{"x.dAT", "x.Dat", "x.daT"}, "x", "x.Dat", "x.cfg"},
     };
     Abre();
+    c.Escribe("d/rec.hdr", "h");
     for (const auto& k : casos) {
         for (const char* nombre : k.hay)
             c.Escribe(std::string("d/") + nombre, nombre);
@@ -255,6 +256,7 @@ TEST_F(CopiaAscii, FilesOfTwoRecordsAreMixed)
         auto todos = Ficheros();
         EXPECT_TRUE(todos[k.dat].starts_with(" 1,1000,")) << k.dat;
         EXPECT_TRUE(todos[k.cfg].ends_with("ASCII\r\n\r\n")) << k.cfg;
+        EXPECT_EQ(todos[std::string(k.dat).substr(0, 1) + ".hdr"], "h") << k.dat;
         for (const char* nombre : k.hay)
             if (std::string_view(nombre) != k.dat && std::string_view(nombre) != k.cfg) {
                 EXPECT_EQ(todos[nombre], nombre);
