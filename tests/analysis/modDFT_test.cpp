@@ -1,5 +1,6 @@
 #include "analysis/modDFT.h"
 
+#include <bit>
 #include <cmath>
 #include <functional>
 #include <numbers>
@@ -106,7 +107,7 @@ TEST(ModDFT, ClosedFormsOfSteadySignals)
     EsFasor(mitad, 160, 1, x, y, 100.0 * 1e-5);
 }
 
-/// Behind the first whole window, in float32 with every intermediate stored.
+/// The recurrence as it is defined, in float32 with every intermediate stored, on the padded samples.
 TEST(ModDFT, BitsDifferFromTheScalarRecurrence)
 {
     prueba::RespondeCajas cajas;
@@ -114,15 +115,33 @@ TEST(ModDFT, BitsDifferFromTheScalarRecurrence)
     RecordStore s = Registro(kS, kC, 50 * kN, [](int i, int c) {
         return std::sin(i * 0.37 * c) * 1000.0 / c + (i * 7919 % 101) * 0.013;
     });
-    CalculaDFT(s);
     for (int c = 1; c <= kC; ++c)
-        for (int i = kN + 1; i <= kS; ++i) {
-            const int fila = 5 * kN + i;
-            const double radianes = 360.0 / kN * ((i - 1) % kN + 1) * 3.14159 / 180.0;
-            const auto seno = static_cast<float>(std::sqrt(2.0) * std::sin(radianes) / kN);
-            volatile float d = s.Muestras(i, c) - s.Muestras(i - kN, c), paso = d * seno;
-            ASSERT_EQ(s.FasoresDFT(fila, 2 * c - 1), s.FasoresDFT(fila - 1, 2 * c - 1) + paso) << fila;
+        s.Skew(c) = static_cast<float>(17.5 * c);
+    CalculaDFT(s);
+    ASSERT_EQ(s.FasoresDFT.UBound(1), 5 * kN + kS);
+    for (int c = 1; c <= kC; ++c) {
+        float seno[kN + 1], coseno[kN + 1], x = 0.0F, y = 0.0F;
+        for (int k = 1; k <= kN; ++k) {
+            const auto grados =
+                static_cast<float>(2.0 * s.Skew(c) * 50.0 * 0.000001 * 180.0 + 360.0 / kN * k);
+            const double radianes = grados * 3.14159 / 180.0;
+            seno[k] = static_cast<float>(std::sqrt(2.0) * std::sin(radianes) / kN);
+            coseno[k] = static_cast<float>(std::sqrt(2.0) * std::cos(radianes) / kN);
         }
+        const auto extendida = [&](int i) {
+            if (i <= kN) return 0.0F;
+            return s.Muestras(i > 5 * kN ? i - 5 * kN : (i - 1) % kN + 1, c);
+        };
+        for (int i = kN + 1; i <= 5 * kN + kS; ++i) {
+            volatile float d = extendida(i) - extendida(i - kN);
+            volatile float ps = d * seno[(i - 1) % kN + 1], pc = d * coseno[(i - 1) % kN + 1];
+            x += ps;
+            y += pc;
+            ASSERT_EQ(std::bit_cast<std::uint32_t>(s.FasoresDFT(i, 2 * c - 1)),
+                      std::bit_cast<std::uint32_t>(x));
+            ASSERT_EQ(std::bit_cast<std::uint32_t>(s.FasoresDFT(i, 2 * c)), std::bit_cast<std::uint32_t>(y));
+        }
+    }
 }
 
 TEST(ModDFT, CycleOfARateIsRoundedAway)

@@ -30,6 +30,9 @@ TEST(Medidor, StepsAreSkippedOrDrawnBeyondTheTrack)
         {kAbsoluto, 98, "98 98 %980"},
         {kRelativo, 3, "98"},
         {kRelativo, 2, "100 100 %980 100 %990 100 %1000"},
+        {kAbsoluto, 150, "150"},
+        {kRelativo, 10, "150"},
+        {kRelativo, -60, "90"},
         {kAbsoluto, 32767, "32767"},
     };
     Medidor m;

@@ -32,14 +32,19 @@ protected:
     }
     ~Escenario() override
     {
-        for (Formulario* f : principal.findChildren<Formulario*>())
-            f->Descarga();
-        Asienta();
+        Descarga();
         escena = Escena{};
         store = RecordStore{};
         VaciaTextos();
     }
 
+    /// A fixture whose own members the scene's hooks use unloads the forms before these go.
+    void Descarga()
+    {
+        for (Formulario* f : principal.findChildren<Formulario*>())
+            f->Descarga();
+        Asienta();
+    }
     static void Asienta()
     {
         QTest::qWait(0);

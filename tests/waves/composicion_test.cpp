@@ -1,5 +1,7 @@
 #include "waves/composicion.h"
 
+#include <array>
+
 #include "support/soporte.h"
 #include "waves/lugares_comp.h"
 #include "waves/lugares_todo.h"
@@ -66,20 +68,28 @@ TEST(Composicion, CurvesShareTheScaleOfTheGreatestAndNeverACursorColour)
     s.Muestras = Tabla2<float>(2, 3);
     EXPECT_FLOAT_EQ(EscalaComposicion(s, {1, 2}, 5000.0F), 0.96F);
     const std::uint32_t colores[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x000080, 0x800080, 0xFF00FF};
-    for (int k = 1; k <= 6; ++k)
+    const int leyenda[] = {9, 10, 12, 11, 14, 13};
+    for (int k = 1; k <= 6; ++k) {
         EXPECT_EQ(ColorComposicion(s, k), colores[k - 1]) << k;
+        EXPECT_EQ(ColorLeyenda(k), leyenda[k - 1]) << k;
+    }
+    EXPECT_EQ(ColorLeyenda(7), 0);
 }
 
 TEST(Lugares, ControlsOfACompositionOverlapOnASmallScreen)
 {
+    const double huecos[] = {295.0, 50.0, 10.0}, lados[] = {100.0, 100.0, 10.0};
     for (int n = 1; n <= 3; ++n) {
         const auto alto = static_cast<double>(RejillaComposicion(n, {11700, 8175})[0].alto);
         for (const bool estrecha : {false, true}) {
             const auto l =
                 ColocaComposicion({11700.0, alto, 11580.0, 900.0, n, estrecha}, MedidasControles{});
             ASSERT_TRUE(l);
-            EXPECT_GE(l->HScroll1.arriba, l->Picture1.Abajo());
-            EXPECT_GE(l->cmdadel.izquierda, l->cmdzoom.Derecha());
+            EXPECT_EQ((std::array{l->Picture1.ancho, l->Picture1.alto}),
+                      (std::array{10365.0, alto - 1350.0}));
+            EXPECT_EQ(l->HScroll1.arriba - l->Picture1.Abajo(), huecos[n - 1]);
+            EXPECT_NEAR(l->cmdadel.izquierda - l->cmdzoom.Derecha(), lados[n - 1], 1e-6);
+            EXPECT_EQ(l->cmdzoom.alto * (n == 3 && estrecha ? 2 : 1), l->cmdadel.alto);
             EXPECT_LE(l->pctimpresora.Derecha(), l->amarilla.marca.izquierda);
             EXPECT_LE(l->amarilla.barra.Abajo(), l->cian.marca.arriba);
             EXPECT_LE(l->amarilla.etiquetas[5].Abajo(), l->amarilla.barra.arriba + 1e-6);
@@ -94,6 +104,8 @@ TEST(Lugares, LabelsOfAllChannelsStandByTheirBandInOneColumn)
     for (const int bandas : {1, 3, 8}) {
         const auto l = ColocaTodo(15284.0, 10435.0, 15164.0, 450.0, bandas, MedidasControles{});
         ASSERT_TRUE(l && static_cast<int>(l->lblet.size()) == 2 * bandas);
+        EXPECT_EQ((std::array{l->Picture1.izquierda, l->Picture1.ancho, l->Picture1.alto}),
+                  (std::array{1400.0, 15284.0 - 1500.0, 10435.0 - 900.0}));
         for (std::size_t k = 0; k + 1 < l->lblet.size(); ++k)
             EXPECT_LE(l->lblet[k].Abajo(), l->lblet[k + 1].arriba + 1e-6);
         EXPECT_NEAR(l->lblet[1].arriba, (l->Picture1.alto / bandas + 1.0) / 2.0, 1e-6);

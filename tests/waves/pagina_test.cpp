@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 
 #include "platform/numeros.h"
 #include "support/grabadora.h"
@@ -91,6 +92,9 @@ TEST(PaginaOndas, LevelsAreReplayedOnThePaperWithTheirTicks)
 TEST(PaginaOndas, TimeTicksThinOutAndEndWhereTheyMustNotRunForever)
 {
     const MedidasHoja m = MideOndas(20000.0, 15000.0);
+    EXPECT_EQ((std::array{m.marco.izquierda, m.marco.derecha, m.marco.abajo, m.plot.arriba, m.plot.abajo,
+                          m.columna}),
+              (std::array{180.0, 18840.0, 14175.0, 1000.0, 12300.0, 11250.0}));
     EXPECT_EQ(Rotulos(MarcasTiempo(m, 15400.0 / 3999, 1000)).substr(0, 8), ".100|...");
     EXPECT_EQ(MarcasTiempo(m, 16.0, 10).size(), 0U);
     EXPECT_EQ(MarcasTiempo(m, 500.0, 50).at(0).lugar, 4000.0);  // 2.5 samples go to 2
@@ -109,6 +113,10 @@ TEST(PaginaOndas, HeadingsNameTheChannelTheCursorsAndTheFile)
     for (const char* texto : {" Cursor 1: ", "Cursor 2 : ", "50,000 A", "1,000 ms", "/r/falta.dat", "0 A  "})
         EXPECT_EQ(imp.Primero(texto).texto.substr(0, 4), std::string(texto).substr(0, 4)) << texto;
     EXPECT_EQ(imp.Primero("hoy").ys, imp.Primero("C2").ys);
+    EXPECT_NEAR(imp.Primero("hoy").xs[0], 0.75 * 11906.0, 0.01);
+    const auto lineas = imp.De(Tipo::Poligonal);
+    EXPECT_NEAR(lineas[1].xs[0], 15861.396, 0.01);
+    EXPECT_NEAR(lineas[4].ys[0], 841.9, 0.01);
     for (const auto& o : imp.De(Tipo::Texto)) {
         EXPECT_GE(o.ys[0], h->medidas.marco.arriba) << o.texto;
         EXPECT_LE(o.ys[0] + 240.0, h->medidas.marco.abajo) << o.texto;

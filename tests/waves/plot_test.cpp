@@ -52,15 +52,20 @@ TEST(Curvas, StartAtTheMarginAndGoUpWithTheValue)
     EXPECT_EQ(NumeroDeError([&] { CalculaPuntos(muestras, 2, 1, 301, entera); }), 9);
 }
 
-TEST(Cursores, TheLargeStepOfASlowRateIsNone)
+TEST(Cursores, TheLargeStepIsACycleByTheRateThatThereIs)
 {
     RecordStore s;
     s.FrecMuestras = Tabla1<std::int16_t>(1);
-    s.FrecLinea = 50;
-    for (const auto& [frecuencia, paso] : {std::pair<std::int16_t, int>{20, 1}, {1600, 32}}) {
-        s.FrecMuestras(1) = frecuencia;
-        EXPECT_EQ(PasoDeCursor(s), paso);
+    const struct {
+        std::int16_t declarada, medida, linea;
+        int paso;
+    } casos[] = {{1600, 7, 50, 32}, {0, 1200, 60, 20}, {125, 0, 50, 2}, {75, 0, 50, 2}, {20, 0, 50, 1}};
+    for (const auto& c : casos) {
+        s.FrecMuestras(1) = c.declarada, s.FrecMuestreo = c.medida, s.FrecLinea = c.linea;
+        EXPECT_EQ(PasoDeCursor(s), c.paso) << c.declarada;
     }
+    s.FrecLinea = 0;
+    EXPECT_EQ(NumeroDeError([&] { PasoDeCursor(s); }), 11);
 }
 
 TEST(Rotulos, AreInTheSystemsSeparatorAndSinglePrecision)
@@ -103,6 +108,14 @@ TEST(Rejilla, TheControlsOfAWindowNeverCoverOneAnother)
             EXPECT_LE(fila[i - 1]->Derecha(), fila[i]->izquierda) << i;
         EXPECT_LE(l->lblms.Abajo(), l->lblDif.arriba);
         EXPECT_EQ(l->cmdadel.izquierda - l->cmdzoom.Derecha(), ventanas == 3 ? 50 : 0);
+        MedidasControles con = m;
+        con.anchoMarco = 120, con.anchoReferencia = 1100;
+        for (const double ancho : {18000.0, 9000.0, 7500.0}) {
+            const auto r = ColocaOnda(ancho, 6000, ventanas, con);
+            EXPECT_LE(r->lbl_PS.Derecha(), ancho - con.anchoMarco) << "under the frame";
+            EXPECT_GE(r->lbl_PS.izquierda, r->pctimpresora.Derecha());
+            EXPECT_GE(r->lbl_PS.ancho, ancho > 8000.0 ? con.anchoReferencia : 0.0) << ancho;
+        }
     }
     EXPECT_FALSE(ColocaOnda(18000, 1000, 1, m));
 }

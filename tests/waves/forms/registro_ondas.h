@@ -24,6 +24,7 @@ protected:
         escena.descargaGasolinoOndas = [this] { avance += "]"; };
         Registro(960);
     }
+    ~RegistroOndas() override { Descarga(); }
 
     /// Nine channels; rows 2 and 3 of the table are columns 3 and 2.
     static void Registro(int ultima)
