@@ -17,4 +17,8 @@ int Prueba_perfil(std::span<const std::uint8_t> entrada);
 int Prueba_avi(std::span<const std::uint8_t> entrada);
 int Prueba_jet(std::span<const std::uint8_t> entrada);
 
+/// Most templates with many rows, each of which costs five strings in each of six readings: a fuzzer that
+/// took them all would spend its time on a few inputs of the same kind.
+bool EsPesada_cnf(std::span<const std::uint8_t> entrada);
+
 }  // namespace veldix::fuzz

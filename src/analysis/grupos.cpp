@@ -1,9 +1,12 @@
 #include "analysis/grupos.h"
 
+#include "platform/errores.h"
+
 namespace veldix {
 
 Marcas MarcaUno(int grupo, int cuantos)
 {
+    if (grupo < 1 || grupo > cuantos) Lanza(error::kSubindice);
     Marcas marcas(static_cast<std::size_t>(cuantos), false);
     marcas[static_cast<std::size_t>(grupo - 1)] = true;
     return marcas;

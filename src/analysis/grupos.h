@@ -9,7 +9,7 @@ namespace veldix {
 /// What the chooser's boxes say: for each group, from 1, whether it is ticked. Its size is `NumTrifasic`.
 using Marcas = std::vector<bool>;
 
-/// Group `grupo` alone of `cuantos`.
+/// Group `grupo` alone of `cuantos`. Raises 9 for one that is not 1 to `cuantos`.
 Marcas MarcaUno(int grupo, int cuantos);
 
 /// `GruposFases` or `GruposSecuencias` of a column of boxes.

@@ -34,9 +34,10 @@ struct HojaFasores {
     std::string titulo, fichero, fecha, numero;
 };
 
-/// The page of what a diagram shows of `trazos` at `fila`, at its present zoom, on a landscape paper of
-/// `ancho` x `alto`. `altoDiagrama` is the screen diagram's height. On a printer without colour the lines are
-/// black and differ by width. Raises what the screen's table raises, but for the length of lines.
+/// The page of what a diagram shows of `trazos` at `fila`, at its present zoom, on the printer's paper,
+/// landscape. `altoDiagrama` is the screen diagram's height, twips. On a printer without colour the lines are
+/// black and differ by width. Raises what the screen's table raises, but for the length of lines, and 11 for
+/// a diagram without height.
 HojaFasores ComponeFasores(const RecordStore& s, const Diagrama& d, const std::vector<Trazo>& trazos,
                            int fila, double altoDiagrama, const PieFasores& pie, const Impresora& impresora,
                            const MedidasLetra& letra);

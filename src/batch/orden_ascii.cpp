@@ -6,6 +6,11 @@ namespace veldix {
 
 Salida OrdenAscii(const Argumentos& a, const Consola& consola)
 {
+    if (!TieneNombre(a.sueltos[1])) {
+        Avisa(consola.espanol ? "El destino debe ser un nombre de fichero, sin extensión."
+                              : "The destination must be a file name, without extension.");
+        return Salida::MalUso;
+    }
     if (!AbreRegistroDe(a.sueltos[0], consola)) return Salida::Fallida;
     if (store.FormatoDat != "BINARY") {
         Avisa(consola.espanol ? "El registro no está en formato BINARY."

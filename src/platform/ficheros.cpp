@@ -87,13 +87,6 @@ void CierraEscrito(int fd)
     if (close(fd) != 0) Lanza(ErrorDeEscritura(errno));
 }
 
-/// The file behind links that lead to one, so that a replaced settings file stays where its link points.
-std::string SinEnlaces(const std::string& ruta)
-{
-    const std::unique_ptr<char, decltype(&std::free)> real(realpath(ruta.c_str(), nullptr), &std::free);
-    return real ? std::string(real.get()) : ruta;
-}
-
 mode_t PermisosDe(const std::string& ruta)
 {
     struct stat s {};
@@ -194,6 +187,12 @@ std::string BuscaExtension(const std::string& tronco, std::string_view extension
     return BuscaDesde(tronco + std::string(extension), NombreDe(tronco));
 }
 
+std::string SinEnlaces(const std::string& ruta)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(ruta.c_str(), nullptr), &std::free);
+    return real ? std::string(real.get()) : ruta;
+}
+
 std::string UneRuta(std::string_view carpeta, std::string_view nombre)
 {
     std::string r(carpeta);
@@ -259,7 +258,7 @@ std::size_t LectorTrozos::Tamano() const
 FicheroNuevo::FicheroNuevo(const std::string& ruta)
 {
     if (ruta.empty() || ExisteCarpeta(ruta)) Lanza(error::kAccesoRuta);
-    real_ = SinEnlaces(ruta);
+    real_ = SinEnlaces(ruta);  // a settings file that is a link stays one
     permisos_ = PermisosDe(real_);
     if (access(real_.c_str(), F_OK) == 0 && access(real_.c_str(), W_OK) != 0) Lanza(error::kPermiso);
     if (AjenoEnPegajosa(real_)) Lanza(error::kPermiso);

@@ -22,6 +22,9 @@ std::string BuscaSinCaja(const std::string& ruta);
 /// The same for a file of this very stem: the extension alone, with its point, may be in another case.
 std::string BuscaExtension(const std::string& tronco, std::string_view extension);
 
+/// The file or folder behind links that lead to one; a path that leads nowhere unchanged.
+std::string SinEnlaces(const std::string& ruta);
+
 /// Folder and name joined by the separator, which is not doubled.
 std::string UneRuta(std::string_view carpeta, std::string_view nombre);
 std::string CarpetaDe(std::string_view ruta);

@@ -1,7 +1,5 @@
 #include "platform/pagina.h"
 
-#include <algorithm>
-
 #include "platform/texto.h"
 
 namespace veldix {

@@ -150,7 +150,7 @@ public:
     T& operator()(int f, int c) { return elementos_.datos()[Sitio(f, c)]; }
     const T& operator()(int f, int c) const { return elementos_.datos()[Sitio(f, c)]; }
 
-    /// The first element of row `f`; element k of the pointer is its column k, from 0. Raises 9.
+    /// The first element of row `f`; element 0 of the pointer is its lowest column. Raises 9.
     T* fila(int f) { return elementos_.datos() + Sitio(f, col1_); }
     const T* fila(int f) const { return elementos_.datos() + Sitio(f, col1_); }
 

@@ -187,6 +187,12 @@ int ReescribeFinal(std::string& cfg, const RecordStore& s)
 
 }  // namespace
 
+bool TieneNombre(const std::string& tronco)
+{
+    const std::string nombre = NombreDe(tronco);
+    return !nombre.empty() && nombre != "." && nombre != "..";
+}
+
 bool ExisteCopia(const RecordStore& s)
 {
     return ExisteFichero(RutaCopia(s, ".DAT"));
@@ -194,8 +200,7 @@ bool ExisteCopia(const RecordStore& s)
 
 void ConvierteAscii(RecordStore& s)
 {
-    const std::string nombre = NombreDe(s.FicheroAscii);
-    if (nombre.empty() || nombre == "." || nombre == "..") Lanza(error::kNombreFichero);
+    if (!TieneNombre(s.FicheroAscii)) Lanza(error::kNombreFichero);
     if (TieneSuNombre(s) || PisaSusFicheros(s)) Lanza(error::kFicheroAbierto);
     FicherosNuevos copia;
     EscribeAsciiDat(s, copia);

@@ -5,12 +5,15 @@
 
 namespace veldix {
 
+/// Whether a path without extension ends in a name that files can have.
+bool TieneNombre(const std::string& tronco);
+
 /// Whether a record of the name `FicheroAscii` is there: its `.DAT`, in any case.
 bool ExisteCopia(const RecordStore& s);
 
 /// Writes the record, opened in BINARY form, as an ASCII one of the path `FicheroAscii`; of a record that is
-/// there the three files are replaced, under its spelling, when all are written. Raises 52 for
-/// a path without a name and 55, with nothing touched, where the copy has the record's name or one of its
+/// there the three files are replaced, under its spelling, when all are written. Raises 52 for a
+/// path without a name and 55, with nothing touched, where the copy has the record's name or one of its
 /// files; else as its two steps.
 void ConvierteAscii(RecordStore& s);
 

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "platform/errores.h"
 #include "platform/fichero_ajustes.h"
+#include "platform/ficheros.h"
 #include "platform/numeros.h"
 #include "platform/textos.h"
 #include "tools/tools_ini.h"
@@ -40,15 +42,30 @@ void EligeFicheroIdioma(RecordStore& s, bool espanol)
     s.FicheroIdioma = BuscaSinCaja(UneRuta(s.DirIni, espanol ? "vdotro.ini" : "vdingles.ini"));
 }
 
-void CambiaIdiomaFicheros(RecordStore& s, std::int16_t idioma)
+namespace {
+
+void CambiaIdiomaTools(RecordStore& s, std::int16_t idioma)
 {
-    RepasaSesion(s, &idioma);
     ToolsIni t = LeeToolsIni(s);
     s.DirDatos = t.DirDatos;
     s.DirPlantillas = t.DirPlantillas;
     s.DirAplic = t.DirAplic;
     t.Idioma = idioma;
     EscribeToolsIni(s, t);
+}
+
+}  // namespace
+
+void CambiaIdiomaFicheros(RecordStore& s, std::int16_t idioma)
+{
+    const std::string sesion = BuscaSinCaja(RutaFicher(s)), antes = LeeOctetos(sesion);
+    RepasaSesion(s, &idioma);
+    try {
+        CambiaIdiomaTools(s, idioma);
+    } catch (const ErrorEjecucion&) {
+        Intenta([&] { ReemplazaFichero(sesion, antes); });  // the two files are to agree
+        throw;
+    }
     EligeFicheroIdioma(s, idioma != 0);
 }
 

@@ -22,7 +22,8 @@ void EligeFicheroIdioma(RecordStore& s, bool espanol);
 
 /// The file part of a switch of language: both settings files take `idioma` on line 1 (the default folders
 /// are refreshed on the way), and `FicheroIdioma` that of the language. Its texts are the caller's to load.
-/// Raises as its steps.
+/// Raises as its steps; where the second file fails the first gets its language back, unless the disk is
+/// full.
 void CambiaIdiomaFicheros(RecordStore& s, std::int16_t idioma);
 
 }  // namespace veldix

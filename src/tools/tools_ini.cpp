@@ -38,7 +38,7 @@ ToolsIni LeeToolsIni(const RecordStore& s)
     t.Idioma = Entero16Local(lineas.Lee());
     LeeCarpetas(lineas, t);
     const std::int16_t n = Entero16Local(lineas.Lee());
-    if (n < -1) Lanza(error::kSubindice);
+    if (n < 0) Lanza(error::kSubindice);
     for (int i = 1; i <= n; ++i)
         t.herramientas.push_back(SinExtremos(lineas.Lee()));
     return t;

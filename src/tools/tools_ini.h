@@ -18,7 +18,7 @@ struct ToolsIni {
 std::string RutaTools(const RecordStore& s);
 
 /// Reads `tools.ini`. Raises what opening raises, 62 where it is short, 13 or 6 for a number that is none,
-/// 9 for a count below -1.
+/// 9 for a negative count.
 ToolsIni LeeToolsIni(const RecordStore& s);
 /// Replaces `tools.ini` whole. Raises what writing raises; the old file then stands.
 void EscribeToolsIni(const RecordStore& s, const ToolsIni& t);

@@ -34,8 +34,8 @@ struct LugaresBotones {
     Lugar cmdzoom, cmdadel, cmdatras, pctimpresora;
 };
 
-/// Places of the controls of a wave window, in twips from the corner of its inside; widths follow the outer
-/// size, so that the plot ends under the frame.
+/// Places of the controls of a wave window, in twips from the corner of its inside; the widths of plot and
+/// bars follow the outer size, so that the plot ends under the frame.
 struct LugaresOnda : LugaresBotones {
     Lugar picbox;
     Lugar HScroll1, HScroll2;

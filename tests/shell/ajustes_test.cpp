@@ -66,9 +66,16 @@ TEST_F(Ajustes, SessionIsPutBackAsReadOrNotTouched)
     const struct {
         const char* lineas;
         int error;
-    } casos[] = {{" 0 | 2 | a,b |\"c\"", 0}, {" 1 | 6 |1|2|3|4|5|", 0}, {" 1 | 0 ", 0}, {" 1 ", 62},
-                 {" 1 | 4 |a|b|c", 62},      {" 1 | 32767 |a", 62},     {"x| 0 ", 13},  {" 1 ||a", 13},
-                 {" 40000 | 0 ", 6}};
+    } casos[] = {{" 0 | 2 | a,b |\"c\"", 0},
+                 {" 1 | 6 |1|2|3|4|5|", 0},
+                 {" 1 | 0 ", 0},
+                 {" 1 ", 62},
+                 {" 1 | 4 |a|b|c", 62},
+                 {" 1 | 32767 |a", 62},
+                 {"x| 0 ", 13},
+                 {" 1 ||a", 13},
+                 {" 40000 | 0 ", 6},
+                 {" 1 | -2 ", 9}};
     for (const auto& k : casos) {
         SCOPED_TRACE(k.lineas);
         const std::string octetos = ConFinales(k.lineas);
@@ -111,13 +118,17 @@ TEST_F(Ajustes, ASwitchOfLanguageRewritesBothFilesOrLosesNeither)
     c.Escribe("tools.ini", kTools);
     c.Escribe("vdingles.ini", FicheroTextos(288, "Line"));
     c.Escribe("vdotro.ini", FicheroTextos(288, "L\xEDnea"));
+    std::filesystem::rename(c.Ruta("tools.ini"), c.Ruta("away"));
+    EXPECT_EQ(NumeroDeError([&] { CambiaIdiomaFicheros(s, 0); }), 53);
+    EXPECT_EQ(Ficher(), kFicher) << "the files speak two languages";
+    std::filesystem::rename(c.Ruta("away"), c.Ruta("tools.ini"));
     s.DirDatos = s.DirAplic = "/stale";
     for (int n = 0, error = 61; error != 0; ++n) {
         LimitaDisco(n);
         error = NumeroDeError([&] { CambiaIdiomaFicheros(s, 0); });
         LimitaDisco(-1);
         ASSERT_TRUE(error == 0 || (error == 61 && n < 200)) << error;
-        ASSERT_EQ(Ficher().substr(3), kFicher.substr(3)) << n;
+        ASSERT_EQ(Ficher().substr(3), kFicher.substr(3)) << n;  // the disk is too full to put line 1 back
         ASSERT_EQ(Tools(), (error != 0 ? "1" : "0") + kTools.substr(1)) << n;
     }
     EXPECT_EQ(Ficher().substr(0, 3), " 0 ");

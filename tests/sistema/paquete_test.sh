@@ -38,6 +38,10 @@ grep -q 1997 "$raiz/info" || falla "veldix-cli says nothing"
 # shellcheck disable=SC2016  # expanded by the replacement
 printf '#!/bin/sh\nprintf "%%s\\n" "$0" "$@"\n' >"$opt/VELDIX/EXE/veldix"
 chmod -R a-w "$raiz/sistema"
+sumas() {
+    find "$raiz/sistema" -type f -exec cksum {} + | sort
+}
+sumas >"$raiz/antes"
 trap 'chmod -R u+w "$raiz" && rm -rf "$raiz"' EXIT
 
 # First start.
@@ -63,7 +67,11 @@ igual "settings at the second start" "$(cat "$arbol/VELDIX/ini/tools.ini")" "$(p
 igual "model of the user's own" "$(cat "$arbol/Models/Modelos.mdb")" own
 [ -s "$arbol/VELDIX/ini/ficher.ini" ] || falla "a lost session is not put back"
 [ -e "$arbol/Models/DIST21.mdb" ] || falla "a lost model is not put back"
-[ "$(stat -c %a "$opt/Models/Modelos.mdb")" = 444 ] || falla "the installation was changed"
+rm "$arbol/VELDIX/EXE"
+mkdir "$arbol/VELDIX/EXE"
+! "$bin/veldix" 2>"$raiz/error" || falla "a folder in the place of the programs' link"
+grep -q VELDIX/EXE "$raiz/error" || falla "nothing is said of the folder"
+rmdir "$arbol/VELDIX/EXE"
 
 # Two users do not meet, and their trees may lie anywhere.
 igual "second user" "$(HOME=$raiz/berta XDG_DATA_HOME=$raiz/datos/berta "$bin/veldix")" \
@@ -71,22 +79,55 @@ igual "second user" "$(HOME=$raiz/berta XDG_DATA_HOME=$raiz/datos/berta "$bin/ve
 igual "first user's settings" "$(cat "$arbol/VELDIX/ini/tools.ini")" "$(printf '1\r')"
 grep -q "datos/berta/veldix/Plantillas" "$raiz/datos/berta/veldix/VELDIX/ini/tools.ini" || falla "shared templates"
 
-# Paths: from the folder one stands in, and with blanks, which the program itself would cut at.
+# Starts at the same time, the first ones of a user.
+for vez in 1 2 3 4 5; do
+    (HOME=$raiz/eva-$vez "$bin/veldix" >/dev/null && echo ended >>"$raiz/hechos") &
+    (HOME=$raiz/eva-$vez "$bin/veldix" >/dev/null && echo ended >>"$raiz/hechos") &
+done
+wait
+igual "starts that ended well" "$(wc -l <"$raiz/hechos")" 10
+igual "settings of two starts" "$(ls "$raiz/eva-1/.local/share/veldix/VELDIX/ini")" "ficher.ini
+tools.ini
+vdingles.ini
+vdotro.ini"
+! env -u HOME "$bin/veldix" 2>/dev/null || falla "a tree without HOME"
+env -u HOME "$bin/veldix-cli" --help >/dev/null || falla "veldix-cli without HOME"
+
+# Paths: from the folder one stands in, and with blanks, at which the program itself would cut; options as they are.
 mkdir "$raiz/mis registros"
 cp "$opt/Registros/falta_1997.dat" "$raiz/mis registros/falta 1.dat"
 cp "$opt/Registros/falta_1997.cfg" "$raiz/mis registros/falta 1.CFG"
-cp "$opt/Plantillas/falta.cnf" "$raiz/plantilla.cnf"
+cp "$opt/Plantillas/falta.cnf" "$raiz/mis registros/mi plantilla.cnf"
 cd "$raiz/mis registros"
-set -f
-# shellcheck disable=SC2046  # the paths have no blanks: that is what is tried
-set -- $("$bin/veldix" "falta 1.dat" "$raiz/plantilla.cnf")
-igual "words" "$#" 3
-igual "template" "$3" "$raiz/plantilla.cnf"
-cmp -s "$2" "falta 1.dat" || falla "$2 is not the record"
-cmp -s "${2%.dat}.CFG" "falta 1.CFG" || falla "the .cfg is not beside $2"
-[ ! -e "${2%/*}/plantilla.cnf" ] || falla "a path without blanks got a link"
+prueba_registro() { # the word that the program got for falta 1.dat
+    case $1 in *' '*) falla "a blank in $1" ;; esac
+    cmp -s "$1" "falta 1.dat" || falla "$1 is not the record"
+    cmp -s "${1%.dat}.CFG" "falta 1.CFG" || falla "the .cfg is not beside $1"
+}
+llamada=$("$bin/veldix" -platform offscreen "falta 1.dat" "mi plantilla.cnf")
+enlace=$(printf '%s\n' "$llamada" | sed -n 4p)
+igual "call with a record" "$llamada" "$arbol/VELDIX/EXE/veldix
+-platform
+offscreen
+$enlace
+$raiz/mis registros/mi plantilla.cnf"
+prueba_registro "$enlace"
+enlace=$(XDG_DATA_HOME="$raiz/mis datos" "$bin/veldix" "falta 1.dat" | tail -1)
+prueba_registro "$enlace"
+rm -r "${enlace%/*}"
+igual "path with a backslash" "$("$bin/veldix" 'a\new.dat' | tail -1)" "$arbol/Enlaces/$(printf '%s' "$PWD/a\new.dat" |
+    cksum | tr ' ' '-')/a\new.dat"
 # The program tells a missing file in its own way, and is not given two words for one.
-igual "words for a missing file" "$("$bin/veldix" "not there.dat" | wc -l)" 2
+igual "words for a missing file" "$("$bin/veldix" "not there.dat" | tail -1 | wc -w)" 1
+
+# Of the links the old ones go, and nothing of the user's.
+enlaces=$(find "$arbol/Enlaces" -name falta_1.dat -printf '%h')
+echo own >"$enlaces/copia.DAT"
+find "$enlaces" -type l -exec touch -h -d '40 days ago' {} +
+touch -d '40 days ago' "$enlaces"
+"$bin/veldix" >/dev/null
+igual "what is left beside old links" "$(ls "$enlaces")" copia.DAT
+sumas | cmp -s - "$raiz/antes" || falla "the installation was changed"
 
 # The code page of the user's own settings counts on the command line as well.
 printf '[TEXTO]\npagina=CP437\n' >"$arbol/VELDIX/ini/perfil.ini"

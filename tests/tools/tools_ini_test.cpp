@@ -18,7 +18,7 @@ TEST(ToolsIni, ToolsAreWrittenWithoutTheirQuotesOrReadBeyondTheirCount)
     c.Escribe("tools.ini", " 1 \n/d\n/p\n/a\n 2 \n\"\"\n'Ñ=o'\n\"C=d\"\n");
     EXPECT_EQ(LeeToolsIni(s).herramientas, (std::vector<std::string>{"", "Ñ=o"}));
     const std::pair<const char*, int> casos[] = {
-        {"1|/d|/p|/a|2|\"A=b\"", 62}, {"x|/d|/p|/a|0", 13}, {"1|/d|/p|/a|no", 13}};
+        {"1|/d|/p|/a|2|\"A=b\"", 62}, {"x|/d|/p|/a|0", 13}, {"1|/d|/p|/a|no", 13}, {"1|/d|/p|/a|-1", 9}};
     for (const auto& [lineas, error] : casos) {
         c.Escribe("tools.ini", ConFinales(lineas));
         EXPECT_EQ(NumeroDeError([&] { LeeToolsIni(s); }), error) << lineas;

@@ -47,12 +47,20 @@ QString PalabraMasAncha(const QString& texto, const QFontMetrics& metrica)
     return mayor;
 }
 
+/// The value and its units, behind the last colon; units may have blanks in them and behind them.
+QString Valor(const QString& texto)
+{
+    const qsizetype nombre = texto.lastIndexOf(": ");
+    return (nombre < 0 ? texto : texto.mid(nombre + 2)).trimmed();
+}
+
 /// As many of the last words as fit, never fewer than the value and its units: half a figure would be
 /// misread.
 QString UltimasPalabras(const QString& texto, const QFontMetrics& metrica, int ancho)
 {
-    QString resto = texto;
-    while (metrica.horizontalAdvance(resto) > ancho && resto.count(' ') > 1) {
+    const QString valor = Valor(texto);
+    QString resto = texto.trimmed();
+    while (metrica.horizontalAdvance(resto) > ancho && resto.size() > valor.size()) {
         resto.remove(0, resto.indexOf(' ') + 1);
         if (const QString marcado = "…" + resto; metrica.horizontalAdvance(marcado) <= ancho) return marcado;
     }
@@ -104,7 +112,7 @@ void EtiquetaLineas::paintEvent(QPaintEvent* /*evento*/)
     const QFontMetrics metrica(letra);
     // In a single line the value is to stand beside its units.
     const QString entero =
-        Caben(metrica, lugar.height()) == 1 ? text().section(' ', -2) : PalabraMasAncha(text(), metrica);
+        Caben(metrica, lugar.height()) == 1 ? Valor(text()) : PalabraMasAncha(text(), metrica);
     anchoLetra_ = AnchoLetra(letra, entero, lugar.width());
     letra.setStretch(anchoLetra_);
     p.setFont(letra);

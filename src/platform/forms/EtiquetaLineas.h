@@ -5,8 +5,9 @@
 
 namespace veldix {
 
-/// The lines of a text that a place of `ancho` x `alto` pixels has room for, its last ones or its first ones.
-/// The last words of the text are taken for a value and its units. Empty without width.
+/// The lines of a text that a place of `lugar` pixels has room for: with `ultimas` its last ones, else its
+/// first ones. What follows the last ": " is a value and its units, which a single last line shows from its
+/// beginning. Empty without width.
 QStringList LineasVisibles(const QString& texto, const QFont& letra, QSize lugar, bool ultimas);
 
 /// A label of a name and a value, in as many lines as fit: aligned at the bottom it shows the end of a text

@@ -17,7 +17,7 @@ class EtiquetasCorridas : public QObject {
 public:
     EtiquetasCorridas(std::vector<QLabel*> etiquetas, QScrollBar* barra, Formulario* form);
 
-    /// Shows a text from its first character on. Raises 9.
+    /// Shows a whole text; a label in lines shows its end, where the value is. Raises 9.
     void Pon(int k, const std::string& texto);
     /// The same, and keeps it as the label's full text; the bar's range only grows. Raises 9.
     void PonEntero(int k, const std::string& texto);

@@ -91,8 +91,7 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
     int k = primera_ - 1;
     for (const Fila& f : filas_) {
         ++k;
-        Pinta(f.lblpunt, k == ranuras.Activa());
-        f.grp->setAccessibleDescription(k == ranuras.Activa() ? "*" : "");
+        Marca(f, k == ranuras.Activa());
         if (const QString texto = Q(ranuras(k).texto); f.grp->text() != texto) {
             f.grp->setText(texto);
             f.grp->setCursorPosition(0);
@@ -102,10 +101,17 @@ void FilasRanura::Muestra(const Ranuras& ranuras)
     }
 }
 
+/// For the eye, and for who has the screen read.
+void FilasRanura::Marca(const Fila& fila, bool activa)
+{
+    Pinta(fila.lblpunt, activa);
+    fila.grp->setAccessibleDescription(activa ? "*" : "");
+}
+
 void FilasRanura::Desmarca()
 {
     for (const Fila& f : filas_)
-        Pinta(f.lblpunt, false);
+        Marca(f, false);
 }
 
 bool FilasRanura::eventFilter(QObject* objeto, QEvent* evento)

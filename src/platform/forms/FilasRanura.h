@@ -55,6 +55,7 @@ private:
     Fila CreaFila(int k, const Opciones& opciones);
     void CreaNumero(Fila& fila, int k, const Opciones& opciones);
     void Vigila(QWidget* control, int k);
+    static void Marca(const Fila& fila, bool activa);
     const Fila& LaFila(int k) const { return filas_[static_cast<std::size_t>(k - primera_)]; }
 
     std::vector<Fila> filas_;

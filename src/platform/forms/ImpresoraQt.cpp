@@ -52,12 +52,13 @@ bool TraeCerca(QLineF& linea)
 
 }  // namespace
 
-/// The least margins that the paper allows put the origin at the printable corner. The toolkit does not turn
-/// them with the paper, so a turned one takes the largest all round.
 ImpresoraQt::ImpresoraQt(QPagedPaintDevice& dispositivo, ModoColor color, std::function<void()> anula)
-    : dispositivo_(dispositivo), color_(color), anula_(std::move(anula))
+    : dispositivo_(dispositivo),
+      color_(color),
+      anula_(std::move(anula)),
+      margenes_(dispositivo.pageLayout().minimumMargins())
 {
-    PonMargenes();
+    PonSentido(Sentido());
     const double puntos = QGuiApplication::font().pointSizeF();
     if (puntos > 0.0) Letra.puntos = puntos;
 }
@@ -73,21 +74,22 @@ Orientacion ImpresoraQt::Sentido() const
     return ancho ? Orientacion::Horizontal : Orientacion::Vertical;
 }
 
+/// The least margins that the paper allows put the origin at the printable corner. The toolkit does not turn
+/// them with the paper, and which way a printer turns it is not told: each edge takes the larger of the two
+/// that may lie there.
 void ImpresoraQt::PonSentido(Orientacion o)
 {
-    dispositivo_.setPageOrientation(o == Orientacion::Horizontal ? QPageLayout::Landscape
-                                                                 : QPageLayout::Portrait);
-    PonMargenes();
-}
-
-void ImpresoraQt::PonMargenes()
-{
-    QMarginsF m = dispositivo_.pageLayout().minimumMargins();
-    if (Sentido() == Orientacion::Horizontal) {
-        const double mayor = std::max({m.left(), m.top(), m.right(), m.bottom()});
-        m = {mayor, mayor, mayor, mayor};
-    }
-    dispositivo_.setPageMargins(m, dispositivo_.pageLayout().units());
+    const bool girado = o == Orientacion::Horizontal;
+    const double x = std::max(margenes_.top(), margenes_.bottom()),
+                 y = std::max(margenes_.left(), margenes_.right());
+    const QMarginsF margenes = girado ? QMarginsF(x, y, x, y) : margenes_;
+    QPageLayout hoja = dispositivo_.pageLayout();
+    hoja.setOrientation(girado ? QPageLayout::Landscape : QPageLayout::Portrait);
+    hoja.setMinimumMargins(margenes);
+    hoja.setMargins(margenes);
+    if (dispositivo_.setPageLayout(hoja)) return;
+    dispositivo_.setPageOrientation(hoja.orientation());
+    dispositivo_.setPageMargins(dispositivo_.pageLayout().minimumMargins(), hoja.units());
 }
 
 double ImpresoraQt::Ancho() const

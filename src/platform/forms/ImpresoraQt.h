@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QMarginsF>
 #include <QPainter>
 
 #include <functional>
@@ -37,13 +38,13 @@ protected:
     void Escribe(double x, double y, const std::string& texto) override;
 
 private:
-    void PonMargenes();
     QFont Fuente() const;
     QPainter& Pintor();
 
     QPagedPaintDevice& dispositivo_;
     ModoColor color_;
     std::function<void()> anula_;
+    QMarginsF margenes_;  ///< the least ones of the upright paper, in the units of its layout
     QPainter pintor_;
 };
 

@@ -29,7 +29,9 @@ bool CabeEnPantalla(QWidget& ventana)
     const QSize libre = pantalla->availableSize() - kMarcoVentana,
                 pide = ventana.layout()->totalMinimumSize();
     if (pide.width() <= libre.width() && pide.height() <= libre.height()) return false;
+    QWidget* foco = ventana.focusWidget();  // lost where controls change their parent
     auto* area = new QScrollArea(&ventana);
+    area->setFocusPolicy(Qt::NoFocus);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     auto* contenido = new QWidget(area);
@@ -38,6 +40,7 @@ bool CabeEnPantalla(QWidget& ventana)
     auto* todo = new QVBoxLayout(&ventana);
     todo->setContentsMargins(0, 0, 0, 0);
     todo->addWidget(area);
+    if (foco) foco->setFocus();
     const int barra = area->verticalScrollBar()->sizeHint().width();
     ventana.resize((pide + QSize(barra, barra)).boundedTo(libre));
     return true;

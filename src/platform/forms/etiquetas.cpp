@@ -37,6 +37,7 @@ QPushButton* CreaBoton(QWidget* padre, const char* nombre, int texto, const char
 int AnchoLetra(QFont letra, const QString& texto, int ancho)
 {
     constexpr int kMenorAncho = 60;
+    if (ancho <= 0) return kMenorAncho;
     int parte = letra.stretch() == QFont::AnyStretch ? 100 : letra.stretch();
     int pide = QFontMetrics(letra).horizontalAdvance(texto);
     while (pide > ancho && parte > kMenorAncho) {

@@ -64,10 +64,10 @@ void Conversion::Dispone()
     todo->addLayout(botones);
 }
 
-/// Beside the record; where its folder has gone, where the program stands.
+/// Beside the record, not beside a link to it; where its folder has gone, where the program stands.
 void Conversion::Form_Load()
 {
-    Intenta([this] { carpetas_->Pon(CarpetaDe(store.FicheroDat)); });
+    Intenta([this] { carpetas_->Pon(CarpetaDe(SinEnlaces(store.FicheroDat))); });
     Dir1_Change();
     Centra(*this);
 }

@@ -16,7 +16,7 @@
 namespace veldix {
 
 /// The program and its version, as its windows show them.
-inline constexpr const char* kTitulo = "VELDIX 2.1.7";
+inline constexpr const char* kTitulo = "VELDIX " VELDIX_VERSION;
 
 /// The child window that stands when no view is open: the program's picture and the menu bar.
 class FrmMenu : public Vista {

@@ -25,7 +25,6 @@ protected:
     void Repinta() override;
     double XCursor(float cursor) const override;
     void PonTextos(int cursor) override;
-    void PonValores(int cursor);
     std::optional<HojaOndas> Hoja(Impresora& impresora) override;
 
 private:
@@ -34,6 +33,7 @@ private:
     void ColocaControles();
     void ColocaEtiquetas(const LugaresTodo& l);
     void PintaMarco();
+    void PonValores(int cursor);
     void Curvas(int s, int e, float escala);
 
     EtiquetasCorridas* lblet;

@@ -15,6 +15,7 @@ namespace veldix {
 namespace {
 
 constexpr int kMenorLinea = 11;  // pixels
+constexpr int kMenorLetra = 7;   // pixels of the screen
 constexpr int kLineas = 3;       // of a name and its value
 
 constexpr int kFranja = 5;  // pixels of a curve's colour at its label's edge
@@ -160,7 +161,8 @@ void frmVerCmpang::ColocaColumna(const ColumnaComp& c, QLabel* marca, EtiquetasC
     QFont letra = font();
     const int alto = APixeles(c.etiquetas[0].alto), pide = QFontMetrics(letra).height();
     const int lineas = qBound(1, alto / kMenorLinea, kLineas), linea = alto / lineas;
-    if (linea < pide) letra.setPixelSize(qMax(7, QFontInfo(letra).pixelSize() * linea / pide));
+    const int menor = qCeil(kMenorLetra / devicePixelRatioF());
+    if (linea < pide) letra.setPixelSize(qMax(menor, QFontInfo(letra).pixelSize() * linea / pide));
     for (int k = 1; k <= textos->Cuantas(); ++k) {
         QLabel* etiqueta = textos->Etiqueta(k);
         Pon(etiqueta, c.etiquetas[static_cast<std::size_t>(k - 1)]);

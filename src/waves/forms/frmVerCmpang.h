@@ -22,8 +22,8 @@ public:
 
     /// Rows of `Canales` of the curves, in their order.
     const std::vector<int>& Canales() const { return canales_; }
-    /// Console colour of position `n`, 0 beyond the last: for whoever asks the window. The legend on paper
-    /// has the colours of the curves instead.
+    /// Console colour of position `n`, 0 beyond the last: those of `Colores`, cursors included. The
+    /// curves, on screen and paper, have ColorComposicion instead.
     int color(int n) const { return ColorLeyenda(n); }
 
 protected:

@@ -1,17 +1,22 @@
 #include <QBuffer>
 #include <QEventLoop>
 #include <QPdfWriter>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include "platform/forms/BarraCursor.h"
 #include "platform/forms/EtiquetaLineas.h"
 #include "platform/forms/EtiquetasCorridas.h"
 #include "platform/forms/ImpresoraPdf.h"
 #include "platform/forms/ImpresoraQt.h"
+#include "platform/forms/disposicion.h"
 #include "platform/forms/escena.h"
 #include "platform/forms/etiquetas.h"
 #include "platform/forms/formulario.h"
+#include "platform/pagina.h"
 #include "support/soporte.h"
 
 namespace veldix {
@@ -76,6 +81,12 @@ TEST(EtiquetaLineas, ATextTooLongLosesItsValueOrTheBeginningIsNeverSeen)
                 LineasVisibles(nombre + (" " + valor), marco.font(), lugar(lineas), false);
             EXPECT_TRUE(principio.join(' ').startsWith(QString(nombre).left(8))) << nombre << lineas;
         }
+    for (const char* unidades : {"kA ", " kA", "kA rms", ""}) {
+        const QString texto = QString("LINEA 1 TENSION FASE A: -1234567,875 ") + unidades;
+        const QSize una(letra.horizontalAdvance("-1234567,875 kA"), letra.height());
+        EXPECT_TRUE(LineasVisibles(texto, marco.font(), una, true).join("").contains("-1234567,8"))
+            << '"' << unidades << '"';
+    }
     etiqueta->resize(lugar(2));
     e.Pon(1, "SUBESTACION NORTE LINEA 1 TENSION FASE A: 1,000 kA");
     e.Recoge(1, true);
@@ -84,6 +95,23 @@ TEST(EtiquetaLineas, ATextTooLongLosesItsValueOrTheBeginningIsNeverSeen)
     EXPECT_TRUE(etiqueta->alignment().testFlag(Qt::AlignTop)) << "a click shows the name";
     e.Pon(1, "SUBESTACION NORTE LINEA 1 TENSION FASE A: 2,000 kA");
     EXPECT_TRUE(etiqueta->alignment().testFlag(Qt::AlignBottom)) << "a step shows the value";
+}
+
+TEST(Disposicion, AFormTooTallForItsScreenLosesItsFocusOrStopsOnNothing)
+{
+    Formulario form(nullptr);
+    auto* todo = new QVBoxLayout(&form);
+    QPushButton* botones[] = {new QPushButton(&form), new QPushButton(&form)};
+    for (QPushButton* boton : botones) {
+        boton->setMinimumHeight(form.screen()->availableSize().height());
+        todo->addWidget(boton);
+    }
+    botones[1]->setFocus();
+    ASSERT_TRUE(CabeEnPantalla(form));
+    EXPECT_EQ(form.focusWidget(), botones[1]);
+    for (QWidget* w = botones[1]->nextInFocusChain(); w != botones[1]; w = w->nextInFocusChain())
+        EXPECT_EQ((w->focusPolicy() & Qt::TabFocus) != 0, w == botones[0]) << w->metaObject()->className();
+    EXPECT_LT(form.height(), form.screen()->availableSize().height());
 }
 
 TEST(Etiquetas, FiguresAreCutThoughTheyCouldBeCondensed)
@@ -181,6 +209,31 @@ TEST(ImpresoraPdf, ACurveFarOffThePageBreaksTheFile)
     const auto [mayor, lineas] = altos(1e12);
     EXPECT_LT(mayor, 2e6);
     EXPECT_EQ(lineas, altos(9000.0).second);
+}
+
+/// A sheet whose lower edge cannot be printed on, A4 in mm.
+TEST(ImpresoraPdf, TheFrameOfATurnedPageLeavesThePaper)
+{
+    for (const QMarginsF& margenes : {QMarginsF(4.2, 4.2, 4.2, 12.7), QMarginsF(6.4, 4.2, 6.4, 14.0)}) {
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        QPdfWriter escritor(&pdf);
+        escritor.setPageLayout(
+            {QPageSize(QPageSize::A4), QPageLayout::Portrait, margenes, QPageLayout::Millimeter, margenes});
+        ImpresoraQt impresora(escritor, ModoColor::Color);
+        for (const Orientacion o :
+             {Orientacion::Horizontal, Orientacion::Vertical, Orientacion::Horizontal}) {
+            impresora.PonSentido(o);
+            ASSERT_EQ(impresora.Sentido(), o);
+            const QPageLayout hoja = escritor.pageLayout();
+            const QRectF papel = hoja.fullRect(QPageLayout::Millimeter);
+            const QMarginsF suyos = hoja.margins(QPageLayout::Millimeter);
+            const Marco m = MarcoPagina(papel.width(), papel.height());
+            EXPECT_LE(suyos.left() + m.derecha, papel.width());
+            EXPECT_LE(suyos.top() + m.abajo, papel.height());
+            EXPECT_TRUE(suyos == margenes || o == Orientacion::Horizontal);
+        }
+    }
 }
 
 TEST(ImpresoraPdf, AFileIsWholeOrAsItWasAndItsPagesAreLandscape)
