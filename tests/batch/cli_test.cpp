@@ -121,15 +121,19 @@ TEST_F(Cli, SamplesAreOfTheWrongSideOrWithAComma)
         EXPECT_EQ(Corre(linea), "sample,time_us,A1,A2,D1\n" + filas) << linea;
 }
 
-/// In the fault of the demonstration record, at sample 432, IA is 2633 A and I2 = I0 = 826 A.
+/// In the fault of the demonstration record, at sample 432, IA is 2633 A and I2 = I0 = 826 A; VA is the
+/// sum of its last cycle with sine and cosine.
 TEST_F(Cli, PhasorsOrSequencesAreOfAnotherRowSideOrGroup)
 {
     const struct {
         std::string linea, cabecera;
-        int columna;  ///< of a magnitude, from 0
+        int columna;  ///< from 0
         double valor;
     } casos[] = {
         {"phasors ej/falta_1991.dat", "row,A1_x,A1_y,A1_mag,A1_ang,A2_x", 19, 2633.0},
+        {"phasors ej/falta_1991.dat", "row,A1_x,", 1, 50.5887},
+        {"phasors ej/falta_1991.dat", "row,A1_x,", 2, 5.6181},
+        {"phasors ej/falta_1991.dat", "row,A1_x,", 4, 6.337},
         {"phasors ej/falta_1997b.dat --reference primary", "row,A1_x,", 19, 2633.0},
         {"phasors ej/falta_1997.dat --reference secondary", "row,A1_x,", 19, 2633.0 / 800.0},
         {"sequences ej/falta_1991.dat ej/falta.cnf --group 2", "row,pos_x,pos_y,pos_mag,pos_ang,neg_x", 7,
